@@ -1,0 +1,22 @@
+# Install rules: the library, its public headers, a CMake package and a pkg-config file.
+include(CMakePackageConfigHelpers)
+
+set(NUMBERING_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/Numbering")
+
+install(TARGETS Numbering EXPORT NumberingTargets
+	LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+	ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+	RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/numbering DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(EXPORT NumberingTargets NAMESPACE Numbering:: DESTINATION ${NUMBERING_CMAKE_DIR})
+
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/NumberingConfig.cmake.in
+	${PROJECT_BINARY_DIR}/NumberingConfig.cmake
+	INSTALL_DESTINATION ${NUMBERING_CMAKE_DIR})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/NumberingConfigVersion.cmake
+	COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/NumberingConfig.cmake ${PROJECT_BINARY_DIR}/NumberingConfigVersion.cmake
+	DESTINATION ${NUMBERING_CMAKE_DIR})
+
+configure_file(${PROJECT_SOURCE_DIR}/cmake/numbering.pc.in ${PROJECT_BINARY_DIR}/numbering.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/numbering.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

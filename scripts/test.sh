@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Builds libNumbering from scratch and runs every test. Exits non-zero on any failure.
+set -euo pipefail
+
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+build="${NUMBERING_BUILD_DIR:-$root/build}"
+
+"$root/scripts/install-deps.sh"
+
+rm -rf "$build"
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+cmake --build "$build" --parallel "$(nproc)"
+ctest --test-dir "$build" --output-on-failure --parallel "$(nproc)"

@@ -1,0 +1,63 @@
+// ZelDialable.h
+// Dialable maker: turns the parts of a canonical number into the digits the site's exchange must dial.
+
+#ifndef Numbering_ZelDialable_INCLUDED
+#define Numbering_ZelDialable_INCLUDED
+
+#include "numbering/Logger.h"
+#include "numbering/ZelCountryRuleItem.h"
+#include "numbering/ZelDialRulesItem.h"
+
+#include <string>
+
+namespace numbering {
+
+/// Generic maker driven by a country's rule strings, of which only the letters E, F and I count.
+/// Reference-counted (count 1 after construction, not atomic); country variants override single slots.
+class ZelDialable
+{
+public:
+	ZelDialable();
+
+	// The order of the virtual functions below is part of the maker interface; keep it.
+	virtual ~ZelDialable();
+
+	/// International prefix, then country number (rule E), area part (rule F) and dest. May empty the caller's
+	/// areaNatPfx when it is only the destination's trunk prefix.
+	virtual std::string makeInternationalDialableNumber(std::string& countryNumber,
+		std::string& areaNatPfx,
+		std::string& dest,
+		ZelCountryRuleItem* rule);
+
+	virtual std::string makeLongDistDialableNumber(std::string& areaNatPfx,
+		std::string& dest,
+		ZelCountryRuleItem* rule,
+		ZelDialRulesItem* site);
+
+	virtual std::string makeLocalDialableNumber(std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule);
+
+	/// Adds one to the reference count.
+	virtual void duplicate();
+
+	/// Subtracts one and deletes the maker at 0.
+	virtual void release();
+
+	/// The carrier code at the start of number; the generic maker knows none and returns "".
+	virtual std::string extractOperatorPrefix(std::string number);
+
+	/// Number of live makers (diagnostics).
+	static int _count;
+
+	ZelDialable(const ZelDialable&) = delete;
+
+	ZelDialable& operator=(const ZelDialable&) = delete;
+
+private:
+	static Logger* logger;
+
+	int m_RefCount;
+};
+
+} // namespace numbering
+
+#endif // Numbering_ZelDialable_INCLUDED

@@ -1,0 +1,54 @@
+// ConfigFixture.cpp
+
+#include "support/ConfigFixture.h"
+
+#include "numbering/Logger.h"
+#include "numbering/ZelNumberingConfig.h"
+
+#include "support/LogCapture.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+namespace numbering {
+namespace test {
+
+void ConfigFixture::SetUp()
+{
+	std::string pattern = (std::filesystem::temp_directory_path() / "numbering-test-XXXXXX").string();
+	ASSERT_NE(nullptr, ::mkdtemp(pattern.data()));
+	m_Dir = pattern + "/";
+	resetLibrary();
+	ZelNumberingConfig::setConfigDirectory(m_Dir);
+	m_SavedTraces = Logger::m_Traces;
+	LogCapture::clear();
+}
+
+void ConfigFixture::TearDown()
+{
+	resetLibrary();
+	Logger::m_Traces = m_SavedTraces;
+	std::error_code ignored;
+	std::filesystem::remove_all(m_Dir, ignored);
+}
+
+void ConfigFixture::writeFile(const std::string& name, const std::string& content)
+{
+	std::ofstream out(m_Dir + name, std::ios::binary);
+	out << content;
+	ASSERT_TRUE(out.good()) << "cannot write " << m_Dir << name;
+}
+
+const std::string& ConfigFixture::configDir() const
+{
+	return m_Dir;
+}
+
+void ConfigFixture::resetLibrary()
+{
+	ZelNumberingConfig::resetInstance();
+}
+
+} // namespace test
+} // namespace numbering

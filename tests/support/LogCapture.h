@@ -1,0 +1,35 @@
+// LogCapture.h
+// The tests' host: a trace sink that keeps every line, and the trace switch.
+
+#ifndef Numbering_LogCapture_INCLUDED
+#define Numbering_LogCapture_INCLUDED
+
+#include <string>
+#include <vector>
+
+namespace numbering {
+namespace test {
+
+/// Lines handed to FlogWrite since the last clear(), in order. Thread-safe.
+class LogCapture
+{
+public:
+	static void clear();
+
+	/// A copy of the captured lines.
+	static std::vector<std::string> lines();
+
+	/// The levels FlogWrite received, one per line.
+	static std::vector<short> levels();
+
+	/// Number of captured lines that contain text.
+	static int count(const std::string& text);
+
+	/// True when a captured line contains text.
+	static bool contains(const std::string& text);
+};
+
+} // namespace test
+} // namespace numbering
+
+#endif // Numbering_LogCapture_INCLUDED
