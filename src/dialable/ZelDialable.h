@@ -24,15 +24,11 @@ public:
 
 	/// International prefix, then country number (rule E), area part (rule F) and dest. May empty the caller's
 	/// areaNatPfx when it is only the destination's trunk prefix.
-	virtual std::string makeInternationalDialableNumber(std::string& countryNumber,
-		std::string& areaNatPfx,
-		std::string& dest,
-		ZelCountryRuleItem* rule);
+	virtual std::string makeInternationalDialableNumber(
+		std::string& countryNumber, std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule);
 
-	virtual std::string makeLongDistDialableNumber(std::string& areaNatPfx,
-		std::string& dest,
-		ZelCountryRuleItem* rule,
-		ZelDialRulesItem* site);
+	virtual std::string makeLongDistDialableNumber(
+		std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule, ZelDialRulesItem* site);
 
 	virtual std::string makeLocalDialableNumber(std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule);
 
@@ -51,6 +47,17 @@ public:
 	ZelDialable(const ZelDialable&) = delete;
 
 	ZelDialable& operator=(const ZelDialable&) = delete;
+
+protected:
+	/// Makes number begin with prefix, one character at a time: wherever number differs from prefix (or has
+	/// ended), the prefix character is inserted; it never looks back. "0" into "123" gives "0123", "00" into
+	/// "0612" gives "00612", "00" into "00612" leaves it alone.
+	static void mergePrefix(std::string& number, const std::string& prefix);
+
+	/// The closing debug text of a long-distance maker: label + areaNatPfx + "' dest: " + dest + " result: " +
+	/// result, where label ends with "AreaNatPfx: '".
+	static std::string longDistTrace(
+		const std::string& label, const std::string& areaNatPfx, const std::string& dest, const std::string& result);
 
 private:
 	static Logger* logger;
