@@ -70,7 +70,7 @@ public:
 	/// True when the number begins with the exception beginning (the exception length never changes the outcome).
 	virtual bool isExceptionNumber(std::string number);
 
-	/// "CountryCode : 'FR', External Prefix : '0', Local length : 5, AreaCode : '1', m_areaCodesList : '1',
+	/// "CountryCode : 'FR', External Prefix : '0', Local length : 5, AreaCode : '1', m_areaCodesList :  '1',
 	/// Except length : 0, Except begin : ''".
 	virtual std::string ToString();
 
