@@ -1,0 +1,111 @@
+// ZelNumberingRules.cpp
+
+#include "numbering/ZelNumberingRules.h"
+
+#include "dialable/ZelDialableManager.h"
+#include "plans/ZelCNPManager.h"
+
+#include "Poco/Ascii.h"
+
+#include <typeinfo>
+
+namespace numbering {
+
+namespace {
+
+bool isIn(const std::string& characters, char c)
+{
+	return characters.find(c) != std::string::npos;
+}
+
+} // namespace
+
+ZelNumberingRules* ZelNumberingRules::instance = nullptr;
+
+ZelNumberingConfig* ZelNumberingRules::config = nullptr;
+
+Logger* ZelNumberingRules::logger = Logger::getLogger(typeid(ZelNumberingRules).name());
+
+std::string ZelNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER = " ()-.";
+
+std::string ZelNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER = "*#ABCD";
+
+ZelNumberingRules* ZelNumberingRules::getInstance()
+{
+	if (!instance) instance = new ZelNumberingRules();
+	return instance;
+}
+
+void ZelNumberingRules::resetInstance()
+{
+	if (Logger::m_Traces) logger->debug("Releasing resources");
+	ZelCNPManager::resetInstance();
+	ZelDialableManager::resetInstance();
+	ZelNumberingConfig::resetInstance();
+	config = nullptr;
+	if (instance)
+	{
+		// The destructor is not virtual because hosts depend on the virtual slot order, which has no destructor
+		// slot; the instance is always a plain ZelNumberingRules made by getInstance, so this delete is sound.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdelete-non-virtual-dtor"
+		delete instance;
+#pragma GCC diagnostic pop
+		instance = nullptr;
+	}
+}
+
+ZelNumberingRules::ZelNumberingRules()
+{
+	if (Logger::m_Traces) logger->debug("ZelNumberingRules()");
+	if (!config) config = ZelNumberingConfig::getInstance();
+}
+
+ZelNumberingRules::~ZelNumberingRules() = default;
+
+std::vector<std::string>& ZelNumberingRules::getCountryList()
+{
+	return config->getCountryList();
+}
+
+std::string ZelNumberingRules::getCountryCode(std::string countryName)
+{
+	return config->getCountryCodeFromName(countryName);
+}
+
+std::string ZelNumberingRules::getCountryName(std::string countryCode)
+{
+	return config->getCountryName(countryCode);
+}
+
+std::string ZelNumberingRules::getCountryCodeFromNumber(std::string countryNumber)
+{
+	return config->getCountryCodeFromNumber(countryNumber);
+}
+
+std::string ZelNumberingRules::checkPhoneNumber(std::string number)
+{
+	std::string result;
+	for (char c : number)
+	{
+		if (Poco::Ascii::isDigit(c) || isIn(TELEPHONENUMBER_SPECIAL_CHARACTER, c))
+		{
+			result += c;
+		}
+		else if (!isIn(TELEPHONENUMBER_FORMAT_CHARACTER, c))
+		{
+			result.clear();
+			break;
+		}
+	}
+	if (Logger::m_Traces) logger->debug("checkPhoneNumber('" + number + "') returns '" + result + "'");
+	return result;
+}
+
+bool ZelNumberingRules::isPrefixNeeded(ZelDialRulesItem* item, std::string number)
+{
+	if (!item) return false;
+	return static_cast<long long>(number.size()) >= item->getLocalNbLength() && !item->isExceptionNumber(number);
+}
+
+} // namespace numbering
