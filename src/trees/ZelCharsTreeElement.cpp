@@ -1,0 +1,145 @@
+// ZelCharsTreeElement.cpp
+
+#include "trees/ZelCharsTreeElement.h"
+
+namespace numbering {
+
+int ZelCharsTreeElement::_count = 0;
+
+ZelCharsTreeElement::ZelCharsTreeElement(char c):
+	m_Character(c),
+	m_AreaCode(false),
+	m_RefCount(1)
+{
+	++_count;
+}
+
+ZelCharsTreeElement::~ZelCharsTreeElement()
+{
+	for (auto& child : m_Elements)
+		delete child.second;
+	--_count;
+}
+
+void ZelCharsTreeElement::insert(ZelCharsTreeElement* e)
+{
+	if (e == nullptr) return;
+	auto found = m_Elements.find(e->getCharacter());
+	if (found == m_Elements.end())
+	{
+		m_Elements[e->getCharacter()] = e;
+		return;
+	}
+	ZelCharsTreeElement* existing = found->second;
+	if (existing == e) return;
+	// The existing node keeps its own mark: a string that is already a path stays unmarked, which the
+	// area-code tree relies on when it refuses such codes.
+	for (auto& child : e->getElements())
+		existing->insert(child.second);
+	e->getElements().clear();
+	delete e;
+}
+
+void ZelCharsTreeElement::insert(std::string s)
+{
+	if (s.empty()) return;
+	ZelCharsTreeElement* chain = nullptr;
+	for (auto c = s.rbegin(); c != s.rend(); ++c)
+	{
+		auto* node = new ZelCharsTreeElement(*c);
+		if (chain == nullptr)
+			node->setAreaCode(true);
+		else
+			node->insert(chain);
+		chain = node;
+	}
+	insert(chain);
+}
+
+std::string ZelCharsTreeElement::ToString()
+{
+	return ToString(0);
+}
+
+std::string ZelCharsTreeElement::ToString(int depth)
+{
+	std::string text;
+	if (m_Character == '\0')
+		text = "Root : ";
+	else
+	{
+		text = m_Character;
+		if (m_AreaCode) text += " (true)";
+	}
+	const std::string indent(depth > 0 ? depth : 0, ' ');
+	for (auto& child : m_Elements)
+	{
+		// Every descendant gets the same indent as the first level.
+		if (child.second != nullptr) text += "\n" + indent + child.second->ToString(depth);
+	}
+	return text;
+}
+
+char ZelCharsTreeElement::getCharacter()
+{
+	return m_Character;
+}
+
+Poco::HashMap<char, ZelCharsTreeElement*>& ZelCharsTreeElement::getElements()
+{
+	return m_Elements;
+}
+
+ZelCharsTreeElement* ZelCharsTreeElement::get(char c)
+{
+	auto found = m_Elements.find(c);
+	return found == m_Elements.end() ? nullptr : found->second;
+}
+
+bool ZelCharsTreeElement::isAreaCode()
+{
+	return m_AreaCode;
+}
+
+void ZelCharsTreeElement::duplicate()
+{
+	++m_RefCount;
+}
+
+void ZelCharsTreeElement::release()
+{
+	if (--m_RefCount == 0) delete this;
+}
+
+void ZelCharsTreeElement::setAreaCode(bool areaCode)
+{
+	m_AreaCode = areaCode;
+}
+
+int ZelCharsTreeElement::numberOfStoredCodes()
+{
+	int stored = 0;
+	for (auto& child : m_Elements)
+	{
+		if (child.second != nullptr)
+			stored += (child.second->isAreaCode() ? 1 : 0) + child.second->numberOfStoredCodes();
+	}
+	return stored;
+}
+
+ZelCharsTreeElement& ZelCharsTreeElement::operator=(const ZelCharsTreeElement& other)
+{
+	m_Character = other.m_Character;
+	m_AreaCode = other.m_AreaCode;
+	for (const auto& child : other.m_Elements)
+	{
+		// Assignment merges: a child already present under the key is kept and no copy is made for it.
+		if (child.second == nullptr || m_Elements.find(child.first) != m_Elements.end()) continue;
+		auto* copy = new ZelCharsTreeElement('\0');
+		*copy = *child.second;
+		m_Elements[child.first] = copy;
+	}
+	return *this;
+}
+
+} // namespace numbering
