@@ -1,0 +1,130 @@
+// ZelRulesSupport.cpp
+
+#include "rules/ZelRulesSupport.h"
+
+#include "numbering/ZelUnsupportedCountryException.h"
+
+#include "dialable/ZelDialableManager.h"
+
+#include "Poco/Exception.h"
+#include "Poco/String.h"
+
+#include <exception>
+#include <stdexcept>
+
+namespace numbering {
+
+bool ZelRulesSupport::isCanonical(const std::string& number)
+{
+	return !number.empty() && number[0] == '+';
+}
+
+bool ZelRulesSupport::isDigit(char c)
+{
+	return c >= '0' && c <= '9';
+}
+
+std::string::size_type ZelRulesSupport::skipDigits(
+	const std::string& text, std::string::size_type from, std::string::size_type end)
+{
+	while (from < end && isDigit(text[from]))
+	{
+		++from;
+	}
+	return from;
+}
+
+std::string::size_type ZelRulesSupport::skipNonDigits(
+	const std::string& text, std::string::size_type from, std::string::size_type end)
+{
+	while (from < end && !isDigit(text[from]))
+	{
+		++from;
+	}
+	return from;
+}
+
+std::string ZelRulesSupport::digitsOf(const std::string& text, std::string::size_type from, std::string::size_type end)
+{
+	std::string digits;
+	for (; from < end; ++from)
+	{
+		if (isDigit(text[from]))
+		{
+			digits += text[from];
+		}
+	}
+	return digits;
+}
+
+bool ZelRulesSupport::isMarked(const std::string& number)
+{
+	return number.find("***") != std::string::npos;
+}
+
+std::string ZelRulesSupport::trimNumber(const std::string& number)
+{
+	std::string trimmed = Poco::trim(number);
+	if (isCanonical(trimmed))
+	{
+		return "+" + Poco::trim(trimmed.substr(1));
+	}
+	return trimmed;
+}
+
+void ZelRulesSupport::checkArguments(ZelDialRulesItem* item, const std::string& number)
+{
+	if (item == nullptr)
+	{
+		throw std::invalid_argument("'myZelDialRulesItem' parameter can not be null");
+	}
+	if (number.empty())
+	{
+		throw std::invalid_argument("'strPhoneNumber' parameter can not be null");
+	}
+}
+
+std::string ZelRulesSupport::errorLine(const std::string& operation, const std::string& context)
+{
+	std::string line = "ZelNumberingRules::" + operation + " exception: ";
+	try
+	{
+		throw;
+	}
+	catch (const std::exception& exception)
+	{
+		line += exception.what();
+	}
+	catch (...)
+	{
+		line += "...";
+	}
+	return line + context;
+}
+
+std::string ZelRulesSupport::describe(ZelDialRulesItem* item)
+{
+	return item == nullptr ? std::string() : item->ToString();
+}
+
+ZelCountryRuleItem* ZelRulesSupport::requireCountryRule(ZelNumberingConfig* config, const std::string& countryCode)
+{
+	ZelCountryRuleItem* rule = config->getCountryRule(countryCode);
+	if (rule == nullptr)
+	{
+		throw ZelUnsupportedCountryException(countryCode);
+	}
+	return rule;
+}
+
+ZelDialable* ZelRulesSupport::requireDialable(const std::string& countryNumber)
+{
+	ZelDialable* dialable = ZelDialableManager::getInstance()->getDialable(countryNumber);
+	if (dialable == nullptr)
+	{
+		throw Poco::NullPointerException("no dialable maker for country number '" + countryNumber + "'");
+	}
+	return dialable;
+}
+
+} // namespace numbering
