@@ -1,0 +1,124 @@
+// ZelAreaCodeTablePlan.cpp
+
+#include "plans/ZelAreaCodeTablePlan.h"
+
+#include "numbering/ZelNumberingConfig.h"
+
+#include "Poco/Exception.h"
+#include "Poco/Util/PropertyFileConfiguration.h"
+
+#include <cstdio>
+#include <exception>
+
+namespace numbering {
+
+namespace {
+
+/// Highest index of an "AC_%04d" key.
+const int LAST_AREA_CODE_INDEX = 9998;
+
+std::string digitsOf(const std::string& value)
+{
+	std::string digits;
+	for (char c : value)
+	{
+		if (c >= '0' && c <= '9') digits += c;
+	}
+	return digits;
+}
+
+/// The property file at path, or null when it cannot be opened. Other failures are thrown.
+Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> openTable(const std::string& path)
+{
+	try
+	{
+		return new Poco::Util::PropertyFileConfiguration(path);
+	}
+	catch (const Poco::FileNotFoundException&)
+	{
+	}
+	catch (const Poco::OpenFileException&)
+	{
+	}
+	return nullptr;
+}
+
+} // namespace
+
+ZelAreaCodeTablePlan::ZelAreaCodeTablePlan(Logger* logger,
+	const std::string& callingCode,
+	const std::string& className,
+	const std::string& noCountryFileText,
+	const std::string& noDefaultFileText):
+	m_Translate(true),
+	m_MaxAreaCodeLength(0),
+	m_AreaCodeCount(0),
+	m_Logger(logger)
+{
+	if (Logger::m_Traces) m_Logger->debug(className + "()");
+	m_AreaCodeTree = new ZelAreaCodeTree;
+	try
+	{
+		const std::string base = ZelNumberingConfig::getConfigDirectory() + "r7731cnp_" + callingCode;
+		Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> table = openTable(base + ".properties");
+		if (table.isNull())
+		{
+			if (!noCountryFileText.empty()) m_Logger->info(noCountryFileText);
+			table = openTable(base + "_default.properties");
+		}
+		if (table.isNull())
+			m_Logger->info(noDefaultFileText);
+		else
+			readTable(*table);
+	}
+	catch (const std::exception& e)
+	{
+		m_Logger->info(className + " : " + e.what());
+	}
+	if (Logger::m_Traces)
+	{
+		m_Logger->debug(className + " : " + " max length areacode : " + std::to_string(m_MaxAreaCodeLength) +
+						" nb area code : " + std::to_string(m_AreaCodeCount));
+	}
+}
+
+ZelAreaCodeTablePlan::~ZelAreaCodeTablePlan() = default;
+
+void ZelAreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& table)
+{
+	if (table.has("Translate")) m_Translate = table.getString("Translate") == "1";
+	char key[16];
+	for (int index = 0; index <= LAST_AREA_CODE_INDEX; ++index)
+	{
+		std::snprintf(key, sizeof(key), "AC_%04d", index);
+		if (!table.has(key)) break;
+		const std::string areaCode = digitsOf(table.getString(key));
+		// An entry without any digit is skipped; the entries after it are still read.
+		if (areaCode.empty()) continue;
+		if (static_cast<int>(areaCode.size()) > m_MaxAreaCodeLength)
+			m_MaxAreaCodeLength = static_cast<int>(areaCode.size());
+		m_AreaCodeTree->insert(areaCode);
+		++m_AreaCodeCount;
+	}
+}
+
+std::string ZelAreaCodeTablePlan::takeAreaCode(std::string& rest, ZelDialRulesItem* rules)
+{
+	// AutoPtr's operator-> throws Poco::NullPointerException for a plan without a tree.
+	std::string area = m_AreaCodeTree->extractAreaCode(rest);
+	if (area.empty())
+	{
+		if (Logger::m_Traces) m_Logger->debug("'" + rest + "' doesn't begin with a known area code");
+		return rules->getAreaCode();
+	}
+	if (Logger::m_Traces)
+	{
+		m_Logger->debug(area.size() == rest.size() ? "'" + rest + "' is an area code"
+												   : "'" + rest + "' isn't an area code, but begins with '" + area +
+														 "' which is an area code");
+	}
+	rest.erase(0, area.size());
+	return area;
+}
+
+} // namespace numbering

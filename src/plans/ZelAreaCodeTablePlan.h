@@ -1,0 +1,66 @@
+// ZelAreaCodeTablePlan.h
+// Shared part of the plans that split national numbers with a table of area codes read from a file.
+
+#ifndef Numbering_ZelAreaCodeTablePlan_INCLUDED
+#define Numbering_ZelAreaCodeTablePlan_INCLUDED
+
+#include "numbering/Logger.h"
+#include "numbering/ZelDialRulesItem.h"
+
+#include "plans/ZelCNP.h"
+#include "trees/ZelAreaCodeTree.h"
+
+#include "Poco/AutoPtr.h"
+
+#include <string>
+
+namespace Poco {
+namespace Util {
+class AbstractConfiguration;
+} // namespace Util
+} // namespace Poco
+
+namespace numbering {
+
+/// A plan that knows its country's area codes. Its constructor reads "r7731cnp_<calling code>.properties" from
+/// the configuration directory, or the "_default" twin when that cannot be opened: "Translate" ("1" keeps
+/// local-number translation on, any other value turns it off; absent, it stays on) and the area codes under
+/// "AC_0000", "AC_0001", ... up to the first missing key, digits only. The constructor never throws.
+class ZelAreaCodeTablePlan: public ZelCNP
+{
+protected:
+	/// Reads the table; traces and info lines go to logger under className ("ZelCNP_49"). noCountryFileText is
+	/// written at info level when the country file cannot be opened (nothing when it is ""), noDefaultFileText
+	/// when the default file cannot be opened either. Any other failure is written at info level as
+	/// className + " : " + what(), and the plan keeps what it had read.
+	ZelAreaCodeTablePlan(Logger* logger,
+		const std::string& callingCode,
+		const std::string& className,
+		const std::string& noCountryFileText,
+		const std::string& noDefaultFileText);
+
+	~ZelAreaCodeTablePlan() override;
+
+	/// Takes the longest known area code off the front of rest and returns it; when rest begins with no known
+	/// code, rest stays whole and the site's own area code (rules->getAreaCode()) is returned. Traces which case
+	/// applied. Throws Poco::NullPointerException when the plan has no tree.
+	std::string takeAreaCode(std::string& rest, ZelDialRulesItem* rules);
+
+	/// True unless the file's "Translate" is something other than "1".
+	bool m_Translate;
+	/// Length of the longest area code read.
+	int m_MaxAreaCodeLength;
+	/// Number of area codes read, refused ones included.
+	int m_AreaCodeCount;
+	Poco::AutoPtr<ZelAreaCodeTree> m_AreaCodeTree;
+
+private:
+	void readTable(const Poco::Util::AbstractConfiguration& table);
+
+	/// The subclass's logger.
+	Logger* const m_Logger;
+};
+
+} // namespace numbering
+
+#endif // Numbering_ZelAreaCodeTablePlan_INCLUDED
