@@ -4,6 +4,7 @@
 
 #include "numbering/Logger.h"
 #include "numbering/ZelNumberingConfig.h"
+#include "numbering/ZelNumberingRules.h"
 
 #include "support/LogCapture.h"
 
@@ -47,7 +48,7 @@ const std::string& ConfigFixture::configDir() const
 
 void ConfigFixture::resetLibrary()
 {
-	ZelNumberingConfig::resetInstance();
+	ZelNumberingRules::resetInstance();
 }
 
 } // namespace test
