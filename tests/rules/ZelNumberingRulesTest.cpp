@@ -1,0 +1,155 @@
+// ZelNumberingRulesTest.cpp
+
+#include "numbering/ZelNumberingRules.h"
+
+#include "dialable/ZelDialable.h"
+#include "dialable/ZelDialableManager.h"
+#include "support/ConfigFixture.h"
+#include "support/LogCapture.h"
+
+#include <gtest/gtest.h>
+
+using numbering::test::LogCapture;
+
+namespace numbering {
+namespace {
+
+class ZelNumberingRulesTest: public test::ConfigFixture
+{
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		writeFile("dialingrules.properties", "FR = 33:00:EF:0F:0F:France:P\n");
+	}
+};
+
+TEST_F(ZelNumberingRulesTest, GetInstanceBuildsOneFacadeUntilReset)
+{
+	Logger::m_Traces = true;
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	EXPECT_EQ(rules, ZelNumberingRules::getInstance());
+	EXPECT_EQ(1, LogCapture::count("ZelNumberingRules()"));
+	ZelNumberingRules::resetInstance();
+	EXPECT_TRUE(LogCapture::contains("DEBUG N9numbering17ZelNumberingRulesE - Releasing resources"));
+	ZelNumberingRules::getInstance();
+	EXPECT_EQ(2, LogCapture::count("ZelNumberingRules()"));
+}
+
+TEST_F(ZelNumberingRulesTest, ResetMakesTheNextInstanceReadTheFilesAgain)
+{
+	EXPECT_EQ("France", ZelNumberingRules::getInstance()->getCountryName("FR"));
+	writeFile("dialingrules.properties", "FR = 33:00:EF:0F:0F:Frankreich:P\n");
+	EXPECT_EQ("France", ZelNumberingRules::getInstance()->getCountryName("FR"));
+	ZelNumberingRules::resetInstance();
+	EXPECT_EQ("Frankreich", ZelNumberingRules::getInstance()->getCountryName("FR"));
+}
+
+TEST_F(ZelNumberingRulesTest, ResetReleasesTheCachedMakers)
+{
+	ZelNumberingRules::getInstance();
+	const int before = ZelDialable::_count;
+	ZelDialableManager::getInstance()->getDialable("33");
+	ASSERT_EQ(before + 1, ZelDialable::_count);
+	ZelNumberingRules::resetInstance();
+	EXPECT_EQ(before, ZelDialable::_count);
+}
+
+TEST_F(ZelNumberingRulesTest, CountryQueriesAnswerFromTheConfiguration)
+{
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	EXPECT_EQ("FR", rules->getCountryCode("France"));
+	EXPECT_EQ("France", rules->getCountryName("FR"));
+	EXPECT_EQ("FR", rules->getCountryCodeFromNumber("33"));
+	EXPECT_EQ(std::vector<std::string>{"France"}, rules->getCountryList());
+	EXPECT_EQ("", rules->getCountryCodeFromNumber("331"));
+}
+
+struct CheckCase
+{
+	const char* name;
+	std::string number;
+	std::string expected;
+};
+
+void PrintTo(const CheckCase& c, std::ostream* os)
+{
+	*os << c.name;
+}
+
+class ZelNumberingRulesCheckTest: public ZelNumberingRulesTest, public ::testing::WithParamInterface<CheckCase>
+{
+};
+
+TEST_P(ZelNumberingRulesCheckTest, KeepsDigitsAndKeypadDropsLayoutRejectsTheRest)
+{
+	EXPECT_EQ(GetParam().expected, ZelNumberingRules::getInstance()->checkPhoneNumber(GetParam().number));
+}
+
+INSTANTIATE_TEST_SUITE_P(Numbers,
+	ZelNumberingRulesCheckTest,
+	::testing::Values(CheckCase{"Empty", "", ""},
+		CheckCase{"LayoutCharactersDropped", "(01) 23-45.67", "01234567"},
+		CheckCase{"ServiceCodeKept", "*21#", "*21#"},
+		CheckCase{"UpperCaseKeypadLettersKept", "1A B-C.D", "1ABCD"},
+		CheckCase{"LowerCaseKeypadLetterRejected", "12a3", ""},
+		CheckCase{"OtherLetterRejected", "12x3", ""},
+		CheckCase{"RejectedAfterDigits", "0123456789E", ""},
+		CheckCase{"PlusRejected", "+33 1 23", ""},
+		CheckCase{"TabRejected", "12\t3", ""},
+		CheckCase{"NulRejected",
+			std::string("12\0"
+						"3",
+				4),
+			""},
+		CheckCase{"HighByteRejected", "12\xe9", ""},
+		CheckCase{"OnlyLayout", " ()-.", ""}),
+	[](const ::testing::TestParamInfo<CheckCase>& info) { return std::string(info.param.name); });
+
+TEST_F(ZelNumberingRulesTest, CheckPhoneNumberTracesItsAnswer)
+{
+	Logger::m_Traces = true;
+	ZelNumberingRules::getInstance()->checkPhoneNumber("01 23");
+	EXPECT_TRUE(
+		LogCapture::contains("DEBUG N9numbering17ZelNumberingRulesE - checkPhoneNumber('01 23') returns '0123'"));
+}
+
+struct PrefixCase
+{
+	const char* name;
+	std::string number;
+	bool expected;
+};
+
+void PrintTo(const PrefixCase& c, std::ostream* os)
+{
+	*os << c.name;
+}
+
+class ZelNumberingRulesPrefixTest: public ZelNumberingRulesTest, public ::testing::WithParamInterface<PrefixCase>
+{
+};
+
+TEST_P(ZelNumberingRulesPrefixTest, WantedFromTheLocalLengthOnUnlessException)
+{
+	ZelDialRulesItem site("FR", "0", 4, "1", 0, "18");
+	EXPECT_EQ(GetParam().expected, ZelNumberingRules::getInstance()->isPrefixNeeded(&site, GetParam().number));
+}
+
+INSTANTIATE_TEST_SUITE_P(Lengths,
+	ZelNumberingRulesPrefixTest,
+	::testing::Values(PrefixCase{"Empty", "", false},
+		PrefixCase{"OneShorterThanLocalLength", "123", false},
+		PrefixCase{"AtLocalLength", "1234", true},
+		PrefixCase{"LongerThanLocalLength", "0612345678", true},
+		PrefixCase{"ExceptionNumber", "18765", false},
+		PrefixCase{"ShortExceptionNumber", "18", false}),
+	[](const ::testing::TestParamInfo<PrefixCase>& info) { return std::string(info.param.name); });
+
+TEST_F(ZelNumberingRulesTest, NoPrefixWithoutSite)
+{
+	EXPECT_FALSE(ZelNumberingRules::getInstance()->isPrefixNeeded(nullptr, "0612345678"));
+}
+
+} // namespace
+} // namespace numbering
