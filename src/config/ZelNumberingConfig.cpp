@@ -24,6 +24,12 @@ const std::string MASK_KEY_MARK = "Mask_";
 const std::string ACTIVATION_KEY_PREFIX = "cnp_";
 const std::string COUNTRY_MASKS_LOADED = " country masks loaded";
 const std::string NO_DIALING_RULES_FILE = "No specific dialing rules configuration file";
+const char* const DIALING_RULES_NAME = "dialingrules.properties";
+const char* const DIALING_RULES_DEFAULT_NAME = "dialingrules_default.properties";
+const char* const COUNTRY_MASKS_NAME = "qap_cnp_mask.properties";
+const char* const COUNTRY_MASKS_DEFAULT_NAME = "qap_cnp_mask_default.properties";
+const char* const SPECIFIC_FORMAT_NAME = "specific_format_activation.properties";
+const char* const SPECIFIC_FORMAT_DEFAULT_NAME = "specific_format_activation_default.properties";
 
 /// One of the three files: the site file, its fallback, and the texts its loader logs.
 struct PropertySource
@@ -34,21 +40,22 @@ struct PropertySource
 	const char* errorPrefix;
 };
 
-std::string& configDirectory()
-{
-	static std::string directory = NUMBERING_CONFIG_DIR;
-	return directory;
-}
-
 std::string withTrailingSlash(std::string directory)
 {
 	if (directory.empty() || directory.back() != '/') directory += '/';
 	return directory;
 }
 
+// A function-local static, so that the paths below can be initialised from it at load time.
+std::string& configDirectory()
+{
+	static std::string directory = withTrailingSlash(NUMBERING_CONFIG_DIR);
+	return directory;
+}
+
 std::string configPath(const char* name)
 {
-	return withTrailingSlash(configDirectory()) + name;
+	return configDirectory() + name;
 }
 
 Properties openProperties(const std::string& path)
@@ -132,13 +139,12 @@ std::string lookUp(const Map& map, const std::string& key)
 ZelNumberingConfig* ZelNumberingConfig::instance = nullptr;
 Logger* ZelNumberingConfig::logger = Logger::getLogger(typeid(ZelNumberingConfig).name());
 
-std::string ZelNumberingConfig::DIALING_RULES_FILE = configPath("dialingrules.properties");
-std::string ZelNumberingConfig::DIALING_RULES_DEFAULT_FILE = configPath("dialingrules_default.properties");
-std::string ZelNumberingConfig::COUNTRY_MASKS_FILE = configPath("qap_cnp_mask.properties");
-std::string ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE = configPath("qap_cnp_mask_default.properties");
-std::string ZelNumberingConfig::SPECIFIC_FORMAT_FILE = configPath("specific_format_activation.properties");
-std::string ZelNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE =
-	configPath("specific_format_activation_default.properties");
+std::string ZelNumberingConfig::DIALING_RULES_FILE = configPath(DIALING_RULES_NAME);
+std::string ZelNumberingConfig::DIALING_RULES_DEFAULT_FILE = configPath(DIALING_RULES_DEFAULT_NAME);
+std::string ZelNumberingConfig::COUNTRY_MASKS_FILE = configPath(COUNTRY_MASKS_NAME);
+std::string ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE = configPath(COUNTRY_MASKS_DEFAULT_NAME);
+std::string ZelNumberingConfig::SPECIFIC_FORMAT_FILE = configPath(SPECIFIC_FORMAT_NAME);
+std::string ZelNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE = configPath(SPECIFIC_FORMAT_DEFAULT_NAME);
 
 ZelNumberingConfig* ZelNumberingConfig::getInstance()
 {
@@ -155,17 +161,17 @@ void ZelNumberingConfig::resetInstance()
 void ZelNumberingConfig::setConfigDirectory(std::string directory)
 {
 	configDirectory() = withTrailingSlash(std::move(directory));
-	DIALING_RULES_FILE = configPath("dialingrules.properties");
-	DIALING_RULES_DEFAULT_FILE = configPath("dialingrules_default.properties");
-	COUNTRY_MASKS_FILE = configPath("qap_cnp_mask.properties");
-	COUNTRY_MASKS_DEFAULT_FILE = configPath("qap_cnp_mask_default.properties");
-	SPECIFIC_FORMAT_FILE = configPath("specific_format_activation.properties");
-	SPECIFIC_FORMAT_DEFAULT_FILE = configPath("specific_format_activation_default.properties");
+	DIALING_RULES_FILE = configPath(DIALING_RULES_NAME);
+	DIALING_RULES_DEFAULT_FILE = configPath(DIALING_RULES_DEFAULT_NAME);
+	COUNTRY_MASKS_FILE = configPath(COUNTRY_MASKS_NAME);
+	COUNTRY_MASKS_DEFAULT_FILE = configPath(COUNTRY_MASKS_DEFAULT_NAME);
+	SPECIFIC_FORMAT_FILE = configPath(SPECIFIC_FORMAT_NAME);
+	SPECIFIC_FORMAT_DEFAULT_FILE = configPath(SPECIFIC_FORMAT_DEFAULT_NAME);
 }
 
 std::string ZelNumberingConfig::getConfigDirectory()
 {
-	return withTrailingSlash(configDirectory());
+	return configDirectory();
 }
 
 ZelNumberingConfig::ZelNumberingConfig()

@@ -1,0 +1,279 @@
+// ZelNumberingConfigTest.cpp
+
+#include "numbering/ZelNumberingConfig.h"
+
+#include "support/ConfigFixture.h"
+#include "support/LogCapture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+using numbering::ZelNumberingConfig;
+using numbering::test::LogCapture;
+
+namespace {
+
+const std::string LINE = "N9numbering18ZelNumberingConfigE - ";
+const std::string NO_RULES_FILE = "INFO " + LINE + "No specific dialing rules configuration file";
+
+const char* const DIALING_RULES = R"(BE=32:00:EFG:0FG:G:Belgium:P
+BS=1242:011:EFG:1F:G:Bahamas:P
+CA=1:011:EFG:1F:G:Canada
+CW=5999:00:EFG:0FG:G:Curacao:P
+FR=33:00:EFG:0FG:G:France:P
+US=1:011:EFG:1F:G:United States:P
+XX=88888:00:EFG:0FG:G:Nowhere:P
+)";
+
+/// True when one captured line is exactly this one.
+bool hasLine(const std::string& line)
+{
+	const std::vector<std::string> lines = LogCapture::lines();
+	return std::find(lines.begin(), lines.end(), line) != lines.end();
+}
+
+class ZelNumberingConfigTest: public numbering::test::ConfigFixture
+{
+protected:
+	ZelNumberingConfig& load(bool traces = false)
+	{
+		Logger::m_Traces = traces;
+		return *ZelNumberingConfig::getInstance();
+	}
+};
+
+TEST_F(ZelNumberingConfigTest, SetConfigDirectoryAppendsSlashAndRewritesPaths)
+{
+	ZelNumberingConfig::setConfigDirectory("/tmp/site");
+	EXPECT_EQ("/tmp/site/", ZelNumberingConfig::getConfigDirectory());
+	EXPECT_EQ("/tmp/site/qap_cnp_mask_default.properties", ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE);
+}
+
+TEST_F(ZelNumberingConfigTest, SiteFileHidesItsDefaultTwinEntirely)
+{
+	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
+	writeFile("dialingrules_default.properties", "DE=49:00:EFG:0FG:G:Germany:P\n");
+	EXPECT_EQ("France", load().getCountryName("FR"));
+	EXPECT_FALSE(load().validCountryCode("DE"));
+	// The one notice comes from the masks loader, which reuses the dialing-rules text.
+	EXPECT_EQ(1, LogCapture::count(NO_RULES_FILE));
+}
+
+TEST_F(ZelNumberingConfigTest, DefaultTwinIsReadWhenSiteFileIsMissingAndNoDebugLineWithoutTraces)
+{
+	writeFile("dialingrules_default.properties", "DE=49:00:EFG:0FG:G:Germany:P\n");
+	writeFile("specific_format_activation_default.properties", "cnp_49=off\n");
+	EXPECT_EQ("DE", load().getCountryCodeFromNumber("49"));
+	EXPECT_FALSE(load().isSpecificFormatActiveForCountry("0"));
+	ZelNumberingConfig::resetInstance();
+	const std::vector<std::string> expected{NO_RULES_FILE, NO_RULES_FILE,
+		"ERROR " + LINE + "ZelNumberingConfig::loadCountryMasks Exception : File not found",
+		"INFO " + LINE + "No specific format activation configuration file"};
+	EXPECT_EQ(expected, LogCapture::lines());
+}
+
+TEST_F(ZelNumberingConfigTest, WithoutAnyFileTablesStayEmptyAndEveryActivationIsInvalid)
+{
+	writeFile("specific_format_activation.properties", "cnp_33=true\ncnp_9999=true\ncnp_=true\n");
+	EXPECT_TRUE(load(true).getCountryList().empty());
+	EXPECT_TRUE(hasLine("ERROR " + LINE + "ZelNumberingConfig::loadDialingRules Exception : File not found"));
+	EXPECT_TRUE(hasLine("DEBUG " + LINE + "Invalid property 'cnp_33'"));
+	EXPECT_EQ(0, LogCapture::count("createListCountryDisplay()"));
+	EXPECT_EQ(1, LogCapture::count("Invalid"));
+}
+
+TEST_F(ZelNumberingConfigTest, FirstKeyWinsSharedNamesAndOnlyFlaggedNumbers)
+{
+	writeFile("dialingrules.properties", R"(CA=1:011:EFG:1F:G:Canada
+FQ=33:00:EFG:0FG:G:France:P
+FR=33::x:0FG:G:France:P
+US=1:011:EFG:1F:G:United States:P:extra
+)");
+	ZelNumberingConfig& config = load();
+	EXPECT_EQ("FQ", config.getCountryCodeFromName("France"));
+	EXPECT_EQ("FQ", config.getCountryCodeFromNumber("33"));
+	EXPECT_EQ("US", config.getCountryCodeFromNumber("1"));
+	EXPECT_EQ("1", config.getCountryNumber("CA"));
+	EXPECT_EQ("", config.getCountryRule("FR")->getInternatPfx());
+	EXPECT_EQ("x", config.getCountryRule("FR")->getInternatRule());
+	EXPECT_EQ((std::vector<std::string>{"Canada", "France", "United States"}), config.getCountryList());
+}
+
+struct MaskCase
+{
+	const char* label;
+	std::string masks;
+	const char* key;
+	const char* pattern;
+	const char* loadedLine;
+};
+
+void PrintTo(const MaskCase& testCase, std::ostream* out)
+{
+	*out << testCase.label;
+}
+
+class ZelNumberingConfigMaskTest: public ZelNumberingConfigTest, public ::testing::WithParamInterface<MaskCase>
+{
+};
+
+TEST_P(ZelNumberingConfigMaskTest, StoresPatternUnderMaskKeyAndDropsCountFromTheLoadedLine)
+{
+	writeFile("qap_cnp_mask.properties", GetParam().masks);
+	EXPECT_EQ(GetParam().pattern, load(true).getDefaultPattern(GetParam().key));
+	EXPECT_TRUE(hasLine("DEBUG " + LINE + GetParam().loadedLine));
+	EXPECT_EQ("", load().getDefaultPattern(""));
+}
+
+std::string manyMasks()
+{
+	std::string masks;
+	for (int number = 100; number < 125; ++number)
+		masks += "Mask_" + std::to_string(number) + "_1=+C x\n";
+	return masks;
+}
+
+INSTANTIATE_TEST_SUITE_P(Masks,
+	ZelNumberingConfigMaskTest,
+	::testing::Values(
+		MaskCase{"FirstOfTwoWinsBothCount", "Mask_33_2=B\nMask_33_1=A\n", "33", "A", "ountry masks loaded"},
+		MaskCase{"NoSecondUnderscore", "Mask_33=A\n", "33", "", " country masks loaded"},
+		MaskCase{"KeyTooLong", "Mask_1234_1=A\n", "1234", "", " country masks loaded"},
+		MaskCase{"EmptyPatternNotCounted", "Mask_49_1=\nMask_1_1=A\n", "49", "", "country masks loaded"},
+		MaskCase{"CutStartsAtFive", "ZZMask_7_1=P\n", "k", "P", "country masks loaded"},
+		MaskCase{"MoreMasksThanLetters", manyMasks(), "124", "+C x", ""}),
+	[](const ::testing::TestParamInfo<MaskCase>& info) { return std::string(info.param.label); });
+
+/// Value of "cnp_33", expected debug line, flag then found under 0.
+using ActivationCase = std::tuple<std::string, std::string, bool>;
+
+class ZelNumberingConfigActivationTest: public ZelNumberingConfigTest,
+										public ::testing::WithParamInterface<ActivationCase>
+{
+};
+
+TEST_P(ZelNumberingConfigActivationTest, KeepsTheFlagUnderZeroSoRealNumbersReadActive)
+{
+	const auto& [value, line, flagUnderZero] = GetParam();
+	writeFile("dialingrules.properties", DIALING_RULES);
+	writeFile("specific_format_activation.properties", "cnp_33=" + value + "\n");
+	ZelNumberingConfig& config = load(true);
+	EXPECT_TRUE(hasLine("DEBUG " + LINE + line));
+	EXPECT_EQ(flagUnderZero, config.isSpecificFormatActiveForCountry("0"));
+	EXPECT_TRUE(config.isSpecificFormatActiveForCountry("33"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Values,
+	ZelNumberingConfigActivationTest,
+	::testing::Values(ActivationCase{"TRUE", "Activating specific format for France", true},
+		ActivationCase{"On", "Activating specific format for France", true},
+		ActivationCase{"1", "Activating specific format for France", true},
+		ActivationCase{"False", "Desactivating specific format for France", false},
+		ActivationCase{"0", "Desactivating specific format for France", false},
+		ActivationCase{"yes", "Invalid value for property 'cnp_' : yes", true}),
+	[](const ::testing::TestParamInfo<ActivationCase>& info) { return std::get<0>(info.param); });
+
+TEST_F(ZelNumberingConfigTest, ActivationLooksUpTheArgumentConvertedAsStrtolDoes)
+{
+	writeFile("dialingrules.properties", DIALING_RULES);
+	writeFile("specific_format_activation.properties", "cnp_1=maybe\ncnp_32=off\ncnp_33=on\n");
+	ZelNumberingConfig& config = load();
+	for (const char* zero : {"0", " 0", "-0", "abc", "0x1", "000"})
+		EXPECT_FALSE(config.isSpecificFormatActiveForCountry(zero)) << zero;
+	for (const char* other : {"", "33", "1", " 7x"})
+		EXPECT_TRUE(config.isSpecificFormatActiveForCountry(other)) << other;
+}
+
+TEST_F(ZelNumberingConfigTest, ExtractCountryNumberTakesTheShortestKnownPrefixUpToFourCharacters)
+{
+	writeFile("dialingrules.properties", DIALING_RULES);
+	ZelNumberingConfig& config = load();
+	const std::vector<std::pair<std::string, std::string>> cases{
+		{"12425550100", "1"}, {"331234", "33"}, {"59991234", "5999"}, {"888881234", ""}, {"3", ""}, {"", ""}};
+	for (const auto& [number, expected] : cases)
+		EXPECT_EQ(expected, config.extractCountryNumber(number)) << number;
+}
+
+TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
+{
+	writeFile("dialingrules.properties", DIALING_RULES);
+	ZelNumberingConfig& config = load();
+	EXPECT_TRUE(config.validCountryCode("FR"));
+	for (const char* code : {"fr", "FRA", "F", "", " F"})
+	{
+		EXPECT_FALSE(config.validCountryCode(code)) << code;
+		EXPECT_EQ(nullptr, config.getCountryRule(code)) << code;
+		EXPECT_EQ("", config.getCountryName(code)) << code;
+	}
+	EXPECT_EQ("", config.getCountryCodeFromNumber("331"));
+	EXPECT_EQ("", config.getCountryCodeFromNumber(" 33"));
+	EXPECT_EQ("", config.getCountryCodeFromName("france"));
+}
+
+TEST_F(ZelNumberingConfigTest, ResetInstanceMakesTheNextInstanceReadTheFilesAgain)
+{
+	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
+	EXPECT_FALSE(load().validCountryCode("DE"));
+	writeFile("dialingrules.properties", "DE=49:00:EFG:0FG:G:Germany:P\n");
+	EXPECT_FALSE(load().validCountryCode("DE"));
+	ZelNumberingConfig::resetInstance();
+	EXPECT_TRUE(load().validCountryCode("DE"));
+}
+
+struct BadFileCase
+{
+	const char* label;
+	std::string content;
+	const char* error;
+	std::vector<std::string> countries;
+};
+
+void PrintTo(const BadFileCase& testCase, std::ostream* out)
+{
+	*out << testCase.label;
+}
+
+class ZelNumberingConfigBadFileTest: public ZelNumberingConfigTest, public ::testing::WithParamInterface<BadFileCase>
+{
+};
+
+TEST_P(ZelNumberingConfigBadFileTest, LogsAndKeepsWhatCouldBeRead)
+{
+	writeFile("dialingrules.properties", GetParam().content);
+	ZelNumberingConfig* config = nullptr;
+	ASSERT_NO_THROW(config = ZelNumberingConfig::getInstance());
+	EXPECT_EQ(GetParam().countries, config->getCountryList());
+	EXPECT_EQ(*GetParam().error != '\0',
+		LogCapture::contains("loadDialingRules Exception : " + std::string(GetParam().error)));
+}
+
+std::string binaryJunk()
+{
+	std::string junk;
+	for (unsigned state = 12345; junk.size() < 4096; state = state * 1103515245u + 12345u)
+		junk += static_cast<char>(state >> 16);
+	return junk;
+}
+
+INSTANTIATE_TEST_SUITE_P(DialingRules,
+	ZelNumberingConfigBadFileTest,
+	::testing::Values(BadFileCase{"Empty", "", "", {}},
+		BadFileCase{"KeyWithDot", "AA=1:::::A\nFR.x=33:00:EFG:0FG:G:France:P\n", "Not found", {}},
+		BadFileCase{"LineWithoutEquals", "FR\n", "", {""}},
+		BadFileCase{"HugeValue", "FR=33:0:E:0F:G:" + std::string(100000, 'n') + "\n", "", {std::string(100000, 'n')}},
+		BadFileCase{"BinaryJunk", binaryJunk(), "Not found", {}}),
+	[](const ::testing::TestParamInfo<BadFileCase>& info) { return std::string(info.param.label); });
+
+TEST_F(ZelNumberingConfigTest, DirectoryInPlaceOfAFileCountsAsMissing)
+{
+	std::filesystem::create_directory(configDir() + "dialingrules.properties");
+	writeFile("dialingrules_default.properties", "FR=33:00:EFG:0FG:G:France:P\n");
+	std::filesystem::create_directory(configDir() + "qap_cnp_mask_default.properties");
+	EXPECT_EQ("FR", load().getCountryCodeFromName("France"));
+	EXPECT_EQ(2, LogCapture::count(NO_RULES_FILE));
+	EXPECT_TRUE(hasLine("ERROR " + LINE + "ZelNumberingConfig::loadCountryMasks Exception : Cannot open file"));
+}
+
+} // namespace
