@@ -1,0 +1,102 @@
+// MorePlansFixture.cpp
+
+#include "plans/MorePlansFixture.h"
+
+#include "plans/ZelCNPFactory.h"
+
+#include "Poco/AutoPtr.h"
+
+#include <cstdio>
+#include <map>
+
+namespace numbering {
+namespace test {
+
+namespace {
+
+const char* const DIALING_RULES = R"(AR=54:00:EFG:0FG:G:Argentina:P
+AT=43:00:EFG:0FG:G:Austria:P
+AU=61:0011:EFG:0FG:G:Australia:P
+BE=32:00:EFG:0FG:0FG:Belgium:P
+FR=33:00:EFG:0FG:G:France:P
+GB=44:00:EFG:0FG:G:United Kingdom:P
+IE=353:00:EFG:0FG:G:Ireland:P
+NL=31:00:EFG:0FG:G:Netherlands:P
+)";
+
+const char* const MEXICO = "MX=52:00:EFG:01FG:G:Mexico:P\n";
+const char* const MEXICO_2019 = "MX=52:00:EFG:FG:FG:Mexico:P\n";
+
+// The codes are in ascending string order, so that a code comes before every longer code that extends it.
+const std::map<std::string, std::string> SAMPLE_CODES = {
+	{"31", "10 111 20 30 346 40 50 70 71"},
+	{"32", "10 11 2 3 4 50 71 80 89 9"},
+	{"43", "1 2236 316 463 512 5574 650 6542 660 662 664 676 680 699 720 732 800 810 900"},
+	{"44", "113 121 1223 131 1387 13873 141 161 16977 1865 20 29"},
+	{"353", "1 21 402 404 41 61 818 83 85 86 87 89 91"},
+	{"54", "11 220 2202 221 223 261 294 2966 341 351 3543 381 600 800 810"},
+	{"61", "2 3 7 8"},
+};
+
+std::string tableFile(const std::string& codes, bool translate)
+{
+	std::string content = translate ? "Translate=1\n" : "Translate=0\n";
+	std::string::size_type start = 0;
+	for (int index = 0; start < codes.size(); ++index)
+	{
+		std::string::size_type end = codes.find(' ', start);
+		if (end == std::string::npos) end = codes.size();
+		char key[16];
+		std::snprintf(key, sizeof(key), "AC_%04d=", index);
+		content += key + codes.substr(start, end - start) + "\n";
+		start = end + 1;
+	}
+	return content;
+}
+
+} // namespace
+
+void MorePlansFixture::writeDialingRules(bool mexico2019)
+{
+	writeFile("dialingrules.properties", std::string(DIALING_RULES) + (mexico2019 ? MEXICO_2019 : MEXICO));
+}
+
+void MorePlansFixture::writeSampleTable(const std::string& callingCode, bool translate)
+{
+	writeFile("r7731cnp_" + callingCode + ".properties", tableFile(SAMPLE_CODES.at(callingCode), translate));
+}
+
+void MorePlansFixture::configure(Setting setting)
+{
+	writeDialingRules(setting == Setting::Mexico2019);
+	if (setting == Setting::NoTable) return;
+	for (const auto& entry : SAMPLE_CODES)
+		writeSampleTable(entry.first, setting != Setting::NoTranslate);
+}
+
+std::unique_ptr<ZelDialRulesItem> MorePlansFixture::makeSite(const SiteSpec& site)
+{
+	return std::make_unique<ZelDialRulesItem>(site.country, site.ext, 5, site.areas, 0, "");
+}
+
+std::string MorePlansFixture::siteName(const SiteSpec& site)
+{
+	return std::string(site.country) + "/" + site.areas + " ext " + site.ext;
+}
+
+std::string planRowName(const ::testing::TestParamInfo<PlanRow>& info)
+{
+	return info.param.name;
+}
+
+std::string MorePlanTest::canonical(const std::string& callingCode)
+{
+	const PlanRow& row = GetParam();
+	configure(row.setting);
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(row.site);
+	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(callingCode));
+	return plan->qap_Country_MakeCanonicalNumber(row.number, site.get());
+}
+
+} // namespace test
+} // namespace numbering
