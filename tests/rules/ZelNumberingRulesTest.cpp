@@ -24,13 +24,17 @@ protected:
 	}
 };
 
+/// Counts the constructions by their trace line; the reset must also release the cached makers.
 TEST_F(ZelNumberingRulesTest, GetInstanceBuildsOneFacadeUntilReset)
 {
 	Logger::m_Traces = true;
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
 	EXPECT_EQ(rules, ZelNumberingRules::getInstance());
 	EXPECT_EQ(1, LogCapture::count("ZelNumberingRules()"));
+	const int makers = ZelDialable::_count;
+	ZelDialableManager::getInstance()->getDialable("33");
 	ZelNumberingRules::resetInstance();
+	EXPECT_EQ(makers, ZelDialable::_count);
 	EXPECT_TRUE(LogCapture::contains("DEBUG N9numbering17ZelNumberingRulesE - Releasing resources"));
 	ZelNumberingRules::getInstance();
 	EXPECT_EQ(2, LogCapture::count("ZelNumberingRules()"));
@@ -38,31 +42,21 @@ TEST_F(ZelNumberingRulesTest, GetInstanceBuildsOneFacadeUntilReset)
 
 TEST_F(ZelNumberingRulesTest, ResetMakesTheNextInstanceReadTheFilesAgain)
 {
-	EXPECT_EQ("France", ZelNumberingRules::getInstance()->getCountryName("FR"));
-	writeFile("dialingrules.properties", "FR = 33:00:EF:0F:0F:Frankreich:P\n");
-	EXPECT_EQ("France", ZelNumberingRules::getInstance()->getCountryName("FR"));
-	ZelNumberingRules::resetInstance();
-	EXPECT_EQ("Frankreich", ZelNumberingRules::getInstance()->getCountryName("FR"));
-}
-
-TEST_F(ZelNumberingRulesTest, ResetReleasesTheCachedMakers)
-{
-	ZelNumberingRules::getInstance();
-	const int before = ZelDialable::_count;
-	ZelDialableManager::getInstance()->getDialable("33");
-	ASSERT_EQ(before + 1, ZelDialable::_count);
-	ZelNumberingRules::resetInstance();
-	EXPECT_EQ(before, ZelDialable::_count);
-}
-
-TEST_F(ZelNumberingRulesTest, CountryQueriesAnswerFromTheConfiguration)
-{
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
-	EXPECT_EQ("FR", rules->getCountryCode("France"));
 	EXPECT_EQ("France", rules->getCountryName("FR"));
+	EXPECT_EQ("FR", rules->getCountryCode("France"));
 	EXPECT_EQ("FR", rules->getCountryCodeFromNumber("33"));
-	EXPECT_EQ(std::vector<std::string>{"France"}, rules->getCountryList());
-	EXPECT_EQ("", rules->getCountryCodeFromNumber("331"));
+	writeFile("dialingrules.properties", "FR = 33:00:EF:0F:0F:Frankreich:P\n");
+	EXPECT_EQ(std::vector<std::string>{"France"}, ZelNumberingRules::getInstance()->getCountryList());
+	ZelNumberingRules::resetInstance();
+	EXPECT_EQ(std::vector<std::string>{"Frankreich"}, ZelNumberingRules::getInstance()->getCountryList());
+}
+
+/// Cases name their tests by their name.
+template <class Case>
+std::string caseName(const ::testing::TestParamInfo<Case>& info)
+{
+	return info.param.name;
 }
 
 struct CheckCase
@@ -94,17 +88,10 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		CheckCase{"UpperCaseKeypadLettersKept", "1A B-C.D", "1ABCD"},
 		CheckCase{"LowerCaseKeypadLetterRejected", "12a3", ""},
 		CheckCase{"OtherLetterRejected", "12x3", ""},
-		CheckCase{"RejectedAfterDigits", "0123456789E", ""},
 		CheckCase{"PlusRejected", "+33 1 23", ""},
-		CheckCase{"TabRejected", "12\t3", ""},
-		CheckCase{"NulRejected",
-			std::string("12\0"
-						"3",
-				4),
-			""},
-		CheckCase{"HighByteRejected", "12\xe9", ""},
-		CheckCase{"OnlyLayout", " ()-.", ""}),
-	[](const ::testing::TestParamInfo<CheckCase>& info) { return std::string(info.param.name); });
+		CheckCase{"NulRejected", "12" + std::string(1, '\0') + "3", ""},
+		CheckCase{"HighByteRejected", "12\xe9", ""}),
+	caseName<CheckCase>);
 
 TEST_F(ZelNumberingRulesTest, CheckPhoneNumberTracesItsAnswer)
 {
@@ -142,9 +129,8 @@ INSTANTIATE_TEST_SUITE_P(Lengths,
 		PrefixCase{"OneShorterThanLocalLength", "123", false},
 		PrefixCase{"AtLocalLength", "1234", true},
 		PrefixCase{"LongerThanLocalLength", "0612345678", true},
-		PrefixCase{"ExceptionNumber", "18765", false},
-		PrefixCase{"ShortExceptionNumber", "18", false}),
-	[](const ::testing::TestParamInfo<PrefixCase>& info) { return std::string(info.param.name); });
+		PrefixCase{"ExceptionNumber", "18765", false}),
+	caseName<PrefixCase>);
 
 TEST_F(ZelNumberingRulesTest, NoPrefixWithoutSite)
 {
