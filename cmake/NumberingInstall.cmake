@@ -18,5 +18,10 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/NumberingConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/NumberingConfig.cmake ${PROJECT_BINARY_DIR}/NumberingConfigVersion.cmake
 	DESTINATION ${NUMBERING_CMAKE_DIR})
 
+# The prefix is found from the .pc file's own place, so that the package can be installed under any prefix
+# (cmake --install --prefix) and still point at its own headers and library.
+file(RELATIVE_PATH NUMBERING_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" NUMBERING_PC_TO_PREFIX "${NUMBERING_PC_TO_PREFIX}")
+set(NUMBERING_PC_PREFIX "\${pcfiledir}/${NUMBERING_PC_TO_PREFIX}")
 configure_file(${PROJECT_SOURCE_DIR}/cmake/numbering.pc.in ${PROJECT_BINARY_DIR}/numbering.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/numbering.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
