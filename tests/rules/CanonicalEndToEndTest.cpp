@@ -29,12 +29,17 @@ struct Case
 	const char* expected;
 };
 
-std::string caseName(const ::testing::TestParamInfo<Case>& info)
+template <typename Param>
+std::string caseName(const ::testing::TestParamInfo<Param>& info)
 {
 	return info.param.name;
 }
 
-class MakeCanonicalNumberTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<Case>
+class SiteCaseTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<Case>
+{
+};
+
+class MakeCanonicalNumberTest: public SiteCaseTest
 {
 };
 
@@ -47,33 +52,26 @@ INSTANTIATE_TEST_SUITE_P(Sites,
 	MakeCanonicalNumberTest,
 	::testing::Values(Case{"InternalExtension", "Berlin", "1234", "1234"},
 		Case{"ExceptionNumber", "Berlin", "11833", "11833"},
-		Case{"NationalNumber", "Berlin", "030 1234567", "+49 (30) 123 4567"},
-		Case{"NationalNumberWithLayout", "Berlin", "(089) 1234-5678", "+49 (89) 123 45678"},
+		Case{"NationalNumber", "Berlin", "(089) 1234-5678", "+49 (89) 123 45678"},
 		Case{"LocalSubscriberGetsSiteArea", "Berlin", "76985411", "+49 (30) 769 85411"},
-		Case{"PlusNumber", "Berlin", "+49 221 1234567", "+49 (221) 123 4567"},
-		Case{"PlusBlankNumber", "Berlin", " + 49 (30) 1234567 ", "+49 (30) 123 4567"},
+		Case{"PlusBlankNumber", "Berlin", " + 49 221 1234567 ", "+49 (221) 123 4567"},
 		Case{"AbroadToOwnCountryIsNational", "Berlin", "0049 30 1234567", "+49 (30) 123 4567"},
 		Case{"InternationalWithoutPlan", "Berlin", "0034 91 123 4567", "+34 911234567"},
 		Case{"InternationalWithTrunkPrefix", "Berlin", "0039 06 1234 5678", "+39 (0) 0612345678"},
 		Case{"PlusNumberWithoutPlan", "Berlin", "+34 91 123 4567", "+34 911234567"},
 		Case{"PlusNumberUnknownCallingCode", "Berlin", "+999 1234567", "+999 1234567"},
 		Case{"ExtensionAfterBarDropped", "Berlin", "030 1234567|12", "+49 (30) 123 4567"},
-		Case{"ServiceCode", "Berlin", "*21#", "*21#"},
 		Case{"ServiceCodeLosesLayout", "Berlin", "#31# 030-1234|9", "#31#0301234"},
 		Case{"MarkedNumberByteForByte", "Berlin", " 030***1 x", " 030***1 x"},
-		Case{"LetterIsNoPhoneNumber", "Berlin", "030 12x4567", ""},
 		Case{"LowerCaseKeypadLetter", "Berlin", "12a4", ""},
-		Case{"BlanksOnly", "Berlin", "   ", ""},
 		Case{"UnknownCallingCodeStaysDialled", "Madrid", "00999 1234567", "009991234567"},
 		Case{"NationalWithoutTrunkPrefix", "Madrid", "911234567", "+34 911234567"},
-		Case{"ToAPlanCountry", "Madrid", "0049 89 12345678", "+49 (89) 123 45678"},
-		Case{"TrunkPrefixInParentheses", "Rome", "0612345678", "+39 (0) 612345678"},
 		Case{"LocalOrNationalUnknown", "Lisbon", "211234567", "211234567"},
-		Case{"PlusNumberOfCountryWithoutAreas", "Lisbon", "+351 21 123 4567", "+351 211234567"}),
-	caseName);
+		Case{"AbroadDropsCarrierCode", "Bogota", "005 34 91 123 4567", "+34 911234567"}),
+	caseName<Case>);
 
 /// With traces on, a number left unconverted says why.
-class MakeCanonicalNumberTracesTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<Case>
+class MakeCanonicalNumberTracesTest: public SiteCaseTest
 {
 };
 
@@ -87,22 +85,20 @@ TEST_P(MakeCanonicalNumberTracesTest, LogsHowTheNumberWasClassified)
 INSTANTIATE_TEST_SUITE_P(Sites,
 	MakeCanonicalNumberTracesTest,
 	::testing::Values(Case{"Internal", "Berlin", "1234", "Nothing to do for1234"},
-		Case{"National", "Berlin", "030 1234567", "National number detected '030 1234567'"},
 		Case{"International", "Berlin", "0034 911", "International number detected : '0034911' with CountryCode 'ES'"},
+		Case{"OwnCountryKeepsCarrierCode", "Bogota", "005 57 1 2345678", "Source number to be altered : '0512345678'"},
 		Case{"UnknownCallingCode", "Madrid", "00999 1234567",
 			"International number detected but no country code was found '00999 1234567'"},
 		Case{"UnknownPlusCallingCode", "Berlin", "+999 1234567", "No country code found for country number ''"},
 		Case{"SameRules", "Madrid", "911234567",
 			"There is no difference between local and national phone number format'911234567'"},
-		Case{"NoPlan", "Madrid", "911234567", "No special format defined for country ES"},
 		Case{"LocalOrNational", "Lisbon", "211234567",
 			"Can't translate to a canonical phone number : we don't known if '211234567' is a local or national "
-			"phone number"},
-		Case{"WrongCharacter", "Berlin", "12x4", "MakeCanonical : wrong character in number : 12x4"}),
-	caseName);
+			"phone number"}),
+	caseName<Case>);
 
 /// makeCanonicalNumber(..., true): the number comes with the site's external prefix, which is removed.
-class WithExtPrefixTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<Case>
+class WithExtPrefixTest: public SiteCaseTest
 {
 };
 
@@ -115,12 +111,10 @@ TEST_P(WithExtPrefixTest, RemovesTheExternalPrefixFirst)
 INSTANTIATE_TEST_SUITE_P(Sites,
 	WithExtPrefixTest,
 	::testing::Values(Case{"National", "Berlin", "0030 1234567", "+49 (30) 123 4567"},
-		Case{"International", "Berlin", "00034 91 123 4567", "+34 911234567"},
 		Case{"WithoutPrefixKept", "Berlin", "1234", "1234"},
-		Case{"PlusNumberKept", "Berlin", "+49 30 1234567", "+49 (30) 123 4567"},
 		Case{"SiteWithoutPrefixInternal", "BerlinDirect", "1234", ""},
 		Case{"SiteWithoutPrefixPlusNumber", "BerlinDirect", "+49 30 1234567", ""}),
-	caseName);
+	caseName<Case>);
 
 /// A received number and the calling-line identity made of it.
 struct ClidCase
@@ -147,24 +141,19 @@ TEST_P(MakeClidTest, TellsWhereTheCallerIs)
 INSTANTIATE_TEST_SUITE_P(Origins,
 	MakeClidTest,
 	::testing::Values(ClidCase{"Extension", "Berlin", "1234", "1234", &ZelEnumOrigin::PRIVATE_1},
-		ClidCase{"ServiceCode", "Berlin", "*21#", "*21#", &ZelEnumOrigin::PRIVATE_1},
 		ClidCase{"SameArea", "Berlin", "030 1234567", "1234567", &ZelEnumOrigin::PUBLIC_1},
 		ClidCase{"OtherArea", "Berlin", "089 12345678", "8912345678", &ZelEnumOrigin::NATIONAL},
 		ClidCase{"TrunkPrefixAsArea", "Rome", "0612345678", "612345678", &ZelEnumOrigin::NATIONAL},
 		ClidCase{"Abroad", "Berlin", "+34 91 123 4567", "34911234567", &ZelEnumOrigin::INTERNATIONAL},
 		ClidCase{
 			"AbroadTrunkPrefixDropped", "Berlin", "0039 06 1234 5678", "390612345678", &ZelEnumOrigin::INTERNATIONAL}),
-	[](const ::testing::TestParamInfo<ClidCase>& info) { return std::string(info.param.name); });
+	caseName<ClidCase>);
 
 using MakeClidFailureTest = CanonicalSitesFixture;
 
-TEST_F(MakeClidFailureTest, GivesNullForANumberThatCannotBeMadeCanonical)
+TEST_F(MakeClidFailureTest, GivesNullOrThrows)
 {
 	EXPECT_EQ(nullptr, rules()->makeClid(site("Berlin"), "12x4"));
-}
-
-TEST_F(MakeClidFailureTest, ThrowsForMissingArgumentsAndUnconfiguredSites)
-{
 	EXPECT_THROW(rules()->makeClid(nullptr, "1234"), std::invalid_argument);
 	EXPECT_THROW(rules()->makeClid(site("Berlin"), ""), std::invalid_argument);
 	EXPECT_THROW(rules()->makeClid(site("Unconfigured"), "+49 30 1234567"), std::runtime_error);
@@ -196,21 +185,15 @@ INSTANTIATE_TEST_SUITE_P(Sites,
 	::testing::Values(DialCase{"LocalArea", true, "Berlin", "+49 (30) 1234567", "01234567"},
 		DialCase{"LongDistance", true, "Berlin", "+49 89 12345678", "008912345678"},
 		DialCase{"International", true, "Berlin", "+34 91 123 4567", "00034911234567"},
-		DialCase{"DialledNational", true, "Berlin", "030 1234567", "01234567"},
-		DialCase{"DialledAbroadToOwnCountry", true, "Berlin", "0049 30 1234567", "01234567"},
-		DialCase{"PlusBlank", true, "Berlin", " + 49 30 1234567 ", "01234567"},
+		DialCase{"DialledNational", true, "Berlin", " 030 1234567", "01234567"},
 		DialCase{"Extension", true, "Berlin", "1234", "1234"},
 		DialCase{"ServiceCodeOnlyCleaned", true, "Berlin", "*21#", "*21#"},
-		DialCase{"MarkedNumber", true, "Berlin", " ***1 ", " ***1 "},
 		DialCase{"NoAreaIsLongDistance", true, "Madrid", "+34 91 123 4567", "0911234567"},
-		DialCase{"NoPrefixSiteOnlyCleans", true, "BerlinDirect", " 0612345678 ", "0612345678"},
-		DialCase{"CleanedExtension", false, "Berlin", "12-34", "1234"},
 		DialCase{"CleanedOutsideNumber", false, "Berlin", "030 1234567", "00301234567"},
 		DialCase{"ExceptionNumber", false, "Berlin", "11833", "11833"},
 		DialCase{"PlusNumberConverted", false, "Berlin", "+49 (30) 1234567", "01234567"},
-		DialCase{"BadCharacter", false, "Berlin", "12x45678", ""},
 		DialCase{"NoPrefixSiteTrims", false, "BerlinDirect", "  0612345678 ", "0612345678"}),
-	[](const ::testing::TestParamInfo<DialCase>& info) { return std::string(info.param.name); });
+	caseName<DialCase>);
 
 using MakeDialableNumberTest = CanonicalSitesFixture;
 
@@ -281,20 +264,13 @@ INSTANTIATE_TEST_SUITE_P(Operations,
 	GuardedFailureTest,
 	::testing::Values(FailureCase{"CanonicalBadCharacter", "makeCanonicalNumber", "Berlin", "030 12x4567",
 						  "'strPhoneNumber' parameter is not a phone number"},
-		FailureCase{"CanonicalHighByte", "makeCanonicalNumber", "Madrid", "91\xe9",
-			"'strPhoneNumber' parameter is not a phone number"},
 		FailureCase{
 			"CanonicalNoSite", "makeCanonicalNumber", "none", "1234", "'myZelDialRulesItem' parameter can not be null"},
 		FailureCase{"CanonicalUnconfiguredSite", "makeCanonicalNumber", "Unconfigured", "0301234567",
 			"Country code 'FR' is not supported"},
-		FailureCase{
-			"CanonicalEmpty", "makeCanonicalNumber", "Berlin", "", "'strPhoneNumber' parameter can not be null"},
-		FailureCase{
-			"PhoneNumberNoSite", "makePhoneNumber", "none", "1234", "'myZelDialRulesItem' parameter can not be null"},
 		FailureCase{"PhoneNumberEmpty", "makePhoneNumber", "Berlin", "", "'strPhoneNumber' parameter can not be null"},
 		FailureCase{
-			"PrefixNoSite", "addExternalPrefix", "none", "1234", "'myZelDialRulesItem' parameter can not be null"},
-		FailureCase{"PrefixEmpty", "addExternalPrefix", "Berlin", "", "'strPhoneNumber' parameter can not be null"}),
-	[](const ::testing::TestParamInfo<FailureCase>& info) { return std::string(info.param.name); });
+			"PrefixNoSite", "addExternalPrefix", "none", "1234", "'myZelDialRulesItem' parameter can not be null"}),
+	caseName<FailureCase>);
 
 } // namespace

@@ -9,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <exception>
+#include <functional>
 #include <random>
 #include <string>
 #include <vector>
@@ -28,16 +28,11 @@ std::vector<std::string> adversarialInputs()
 {
 	return {"", "+", "(", ")", "|", " ", "++", "+ ", "()", ")(", "+()", "+(", "+)", "+ (", "+49", "+49 (", "+49 )",
 		"+49 ()", "+49 () ", "+49 (30)", "+49 (30) ", "+49 )30( 1", "(30) 123", "0", "00", "000", "0049", "00 49", "+0",
-		"***", "|||", "|1", "1|", std::string(1, '\0'),
-		std::string("030\0"
-					"1234567",
-			11),
-		"\xff\xfe",
-		"+\x80"
-		"49 30 1",
-		"*#ABCDabcd", std::string(29, '1'), std::string(30, '1'), std::string(40, '9'), "+" + std::string(40, '4'),
-		"00" + std::string(5000, '4'), std::string(100000, '0'), "+49 (" + std::string(5000, '3') + ") 1",
-		std::string(5000, ' ') + "1", std::string(3000, '('), "+49 (30) " + std::string(3000, ' ')};
+		"***", "|||", "|1", "1|", std::string(1, '\0'), std::string("030") + '\0' + "1234567", "\xff\xfe",
+		"+\x80 49 30 1", "*#ABCDabcd", std::string(29, '1'), std::string(30, '1'), std::string(40, '9'),
+		"+" + std::string(40, '4'), "00" + std::string(5000, '4'), std::string(100000, '0'),
+		"+49 (" + std::string(5000, '3') + ") 1", std::string(5000, ' ') + "1", std::string(3000, '('),
+		"+49 (30) " + std::string(3000, ' ')};
 }
 
 /// Random strings built from number fragments and hostile characters, with a fixed seed so that a failure
@@ -63,36 +58,6 @@ std::vector<std::string> randomInputs(int count)
 	return inputs;
 }
 
-/// The input with non-printable bytes escaped and cut short, for failure messages.
-std::string printable(const std::string& input)
-{
-	std::string text;
-	for (char c : input.substr(0, 80))
-	{
-		char escaped[8];
-		std::snprintf(escaped, sizeof escaped, "\\x%02x", static_cast<unsigned char>(c));
-		text += c >= ' ' && c <= '~' ? std::string(1, c) : std::string(escaped);
-	}
-	return text;
-}
-
-/// Runs an operation that may throw, and fails unless what it throws is a std::exception.
-template <typename Operation>
-void expectOnlyStandardExceptions(const char* name, const std::string& input, Operation operation)
-{
-	try
-	{
-		operation();
-	}
-	catch (const std::exception&)
-	{
-	}
-	catch (...)
-	{
-		ADD_FAILURE() << name << " threw a non-standard exception for '" << printable(input) << "'";
-	}
-}
-
 using FacadeRobustnessTest = CanonicalSitesFixture;
 
 TEST_F(FacadeRobustnessTest, SurvivesHostileNumbersAtEverySite)
@@ -109,30 +74,42 @@ TEST_F(FacadeRobustnessTest, SurvivesHostileNumbersAtEverySite)
 			const std::string& pattern = inputs[(i * 7 + 3) % inputs.size()];
 			// Half of the calls build their debug lines as well.
 			Logger::m_Traces = i % 2 == 1;
-			SCOPED_TRACE(std::string(name) + " '" + printable(input) + "'");
+			// The seed is fixed, so a site and an index replay a failure.
+			SCOPED_TRACE(std::string(name) + " input #" + std::to_string(i));
 			EXPECT_NO_THROW(rules()->makeCanonicalNumber(item, input, ""));
 			EXPECT_NO_THROW(rules()->makeCanonicalNumber(item, input, pattern, true));
 			EXPECT_NO_THROW(rules()->makePhoneNumber(item, input));
 			EXPECT_NO_THROW(rules()->addExternalPrefix(item, input));
 			EXPECT_NO_THROW(rules()->formatCanonicalNumber(input, pattern));
 			EXPECT_NO_THROW(rules()->formatToGSMCanonicalNumber(input));
-			EXPECT_NO_THROW(rules()->checkPhoneNumber(input));
-			EXPECT_NO_THROW(rules()->isPrefixNeeded(item, input));
-			EXPECT_NO_THROW(rules()->validNumber(input));
-			EXPECT_NO_THROW(rules()->extractCountryNumberFromCanonicalNumber(input));
-			EXPECT_NO_THROW(rules()->extractAreaCodeOrNatPrefixFromCanonicalNumber(input));
-			EXPECT_NO_THROW(rules()->extractExtensionFromCanonicalNumber(input));
-			EXPECT_NO_THROW(rules()->getCountryCode(input));
-			EXPECT_NO_THROW(rules()->getCountryName(input));
-			EXPECT_NO_THROW(rules()->getCountryCodeFromNumber(input));
-			expectOnlyStandardExceptions(
-				"makeClid", input, [&] { Poco::AutoPtr<ZelClid> clid(rules()->makeClid(item, input)); });
-			expectOnlyStandardExceptions(
-				"makeDialableNumber", input, [&] { rules()->makeDialableNumber(item, input); });
-			expectOnlyStandardExceptions(
-				"makeGSMCanonicalNumber", input, [&] { rules()->makeGSMCanonicalNumber(item, input, i % 3 == 0); });
-			expectOnlyStandardExceptions("generateDefaultCanonicalNumber", input,
-				[&] { rules()->generateDefaultCanonicalNumber(input, "DE", pattern); });
+			EXPECT_NO_THROW({
+				rules()->checkPhoneNumber(input);
+				rules()->isPrefixNeeded(item, input);
+				rules()->validNumber(input);
+				rules()->extractCountryNumberFromCanonicalNumber(input);
+				rules()->extractAreaCodeOrNatPrefixFromCanonicalNumber(input);
+				rules()->extractExtensionFromCanonicalNumber(input);
+				rules()->getCountryCode(input);
+				rules()->getCountryName(input);
+				rules()->getCountryCodeFromNumber(input);
+			});
+			// The unguarded operations may throw, but only what a host can catch as std::exception; anything
+			// else escapes and fails the test.
+			const std::function<void()> unguarded[] = {
+				[&] { Poco::AutoPtr<ZelClid> clid(rules()->makeClid(item, input)); },
+				[&] { rules()->makeDialableNumber(item, input); },
+				[&] { rules()->makeGSMCanonicalNumber(item, input, i % 3 == 0); },
+				[&] { rules()->generateDefaultCanonicalNumber(input, "DE", pattern); }};
+			for (const std::function<void()>& operation : unguarded)
+			{
+				try
+				{
+					operation();
+				}
+				catch (const std::exception&)
+				{
+				}
+			}
 			LogCapture::clear();
 		}
 	}

@@ -1,5 +1,5 @@
 // CanonicalSitesFixture.h
-// Test fixture: a configuration with Germany, Spain, Italy and Portugal, and one site in each.
+// Test fixture: a configuration with Germany, Spain, Italy, Portugal and Colombia, and one site in each.
 
 #ifndef Numbering_CanonicalSitesFixture_INCLUDED
 #define Numbering_CanonicalSitesFixture_INCLUDED
@@ -16,12 +16,12 @@
 namespace numbering {
 namespace test {
 
-/// Writes the dialing rules, a German mask "+C (A) xxx xxxx" and a German area-code table (30, 89, 221, 7071),
-/// then builds the sites "Berlin" (external prefix 0, local length 5, area 30, exception numbers 11...),
-/// "BerlinDirect" (the same without external prefix), "Madrid", "Rome" and "Lisbon" (prefix 0, length 5), and
-/// "Unconfigured", a default record whose country "FR" the configuration does not know.
-/// Germany has a plan; Spain (no trunk prefix), Italy (trunk 0) and Portugal (local and national numbers
-/// not told apart) have none. The log is cleared once all is loaded.
+/// Writes the dialing rules, a German mask "+C (A) xxx xxxx", a German area-code table (30, 89, 221, 7071) and
+/// the Colombian carrier codes 5 and 7, then builds the sites "Berlin" (external prefix 0, local length 5,
+/// area 30, exception numbers 11...), "BerlinDirect" (the same without external prefix), "Madrid", "Rome",
+/// "Lisbon" and "Bogota" (prefix 0, length 5), and "Unconfigured", a default record whose country "FR" the
+/// configuration does not know. Germany and Colombia have plans; Spain (no trunk prefix), Italy (trunk 0) and
+/// Portugal (local and national numbers not told apart) have none. The log is cleared once all is loaded.
 class CanonicalSitesFixture: public ConfigFixture
 {
 protected:
