@@ -1,0 +1,146 @@
+// CountryPlansEndToEndTest.cpp
+
+#include "numbering/ZelClid.h"
+#include "numbering/ZelDialRulesItem.h"
+#include "numbering/ZelEnumOrigin.h"
+#include "numbering/ZelNumberingRules.h"
+
+#include "support/ConfigFixture.h"
+
+#include "Poco/AutoPtr.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace numbering {
+namespace test {
+namespace {
+
+/// A site: its country, its own area code and the external prefix of its exchange. Local numbers are shorter
+/// than 5 digits everywhere.
+struct Site
+{
+	const char* country;
+	const char* areaCode;
+	const char* extPrefix;
+};
+
+/// A number dialled or received at a site: its canonical form, what the exchange dials for it and the
+/// calling-line identity made of it.
+struct Trip
+{
+	const char* name;
+	Site site;
+	const char* input;
+	const char* canonical;
+	const char* dialled;
+	const char* clidNumber;
+	const char* clidOrigin;
+};
+
+const Site PARIS{"FR", "1", "9"};
+const Site MOSCOW{"RU", "495", "9"};
+const Site NEW_YORK{"US", "212", "9"};
+const Site ZURICH{"CH", "44", "0"};
+const Site BOGOTA{"CO", "1", "0"};
+const Site AUCKLAND{"NZ", "9", "1"};
+
+const Trip TRIPS[] = {
+	{"FrNational", PARIS, "01 23 45 67 89", "+33 (0) 123456789", "90123456789", "123456789", "National"},
+	{"FrWithoutTrunkPrefix", PARIS, "123456789", "+33 (0) 123456789", "90123456789", "123456789", "National"},
+	{"FrBehindExternalPrefix", PARIS, "90123456789", "+33 (0) 123456789", "90123456789", "123456789", "National"},
+	{"FrAbroadToOwnCountry", PARIS, "0033123456789", "+33 (0) 123456789", "90123456789", "123456789", "National"},
+	{"FrCanonical", PARIS, "+33 1 23 45 67 89", "+33 (0) 123456789", "90123456789", "123456789", "National"},
+	{"FrToRussia", PARIS, "0079161234567", "+7 (916) 1234567", "90079161234567", "79161234567", "International"},
+	{"FrInternalExtension", PARIS, "1234", "1234", "1234", "1234", "Private"},
+	{"RuNational", MOSCOW, "8 916 123-45-67", "+7 (916) 1234567", "989161234567", "9161234567", "National"},
+	{"RuWithoutTrunkPrefix", MOSCOW, "9161234567", "+7 (916) 1234567", "989161234567", "9161234567", "National"},
+	{"RuOwnArea", MOSCOW, "84951234567", "+7 (495) 1234567", "91234567", "1234567", "Public"},
+	{"RuCanonical", MOSCOW, "+7 495 123 45 67", "+7 (495) 1234567", "91234567", "1234567", "Public"},
+	{"RuBehindExternalPrefix", MOSCOW, "984951234567", "+7 (495) 1234567", "91234567", "1234567", "Public"},
+	{"UsLocal", NEW_YORK, "555-1234", "+1 (212) 5551234", "95551234", "5551234", "Public"},
+	{"UsNational", NEW_YORK, "1 312 555 1234", "+1 (312) 5551234", "913125551234", "3125551234", "National"},
+	{"UsTenDigits", NEW_YORK, "(312) 555-1234", "+1 (312) 5551234", "913125551234", "3125551234", "National"},
+	{"UsToFrance", NEW_YORK, "011 33 1 23 45 67 89", "+33 (0) 123456789", "901133123456789", "330123456789",
+		"International"},
+	{"ChOwnArea", ZURICH, "044 123 45 67", "+41 (44) 1234567", "01234567", "1234567", "Public"},
+	{"ChOtherArea", ZURICH, "0311234567", "+41 (31) 1234567", "00311234567", "311234567", "National"},
+	{"ChOldZurich", ZURICH, "012345678", "+41 (1) 2345678", "0012345678", "12345678", "National"},
+	{"ChFreePhone", ZURICH, "0800 123 456", "+41 800123456", "00800123456", "800123456", "National"},
+	{"ChUnknownCountryBehindExternalPrefix", ZURICH, "00441234567", "+41 (44) 1234567", "01234567", "1234567",
+		"Public"},
+	{"CoLocal", BOGOTA, "234 56 78", "+57 (1) 2345678", "02345678", "2345678", "Public"},
+	{"CoOtherArea", BOGOTA, "0942345678", "+57 (4) 2345678", "00942345678", "42345678", "National"},
+	{"CoCanonical", BOGOTA, "+57 4 234 5678", "+57 (4) 2345678", "00942345678", "42345678", "National"},
+	{"NzLocal", AUCKLAND, "307 1234", "+64 (9) 3071234", "13071234", "3071234", "Public"},
+	{"NzOtherArea", AUCKLAND, "04 307 1234", "+64 (4) 3071234", "1043071234", "43071234", "National"},
+	{"NzMobile", AUCKLAND, "021 123 4567", "+64 (21) 1234567", "10211234567", "211234567", "National"},
+	{"NzBehindExternalPrefix", AUCKLAND, "1093071234", "+64 (9) 3071234", "13071234", "3071234", "Public"},
+	{"NzSixDigitsOutsideAreaTwo", AUCKLAND, "307123", "307123", "1307123", "307123", "Private"},
+};
+
+class CountryPlansEndToEndTest: public ConfigFixture, public ::testing::WithParamInterface<Trip>
+{
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		writeFile("dialingrules.properties", R"(FR=33:00:EFG:0FG:G:France:P
+RU=7:810:EFG:8FG:G:Russia:P
+US=1:011:EFG:1FG:G:United States:P
+CH=41:00:EFG:0FG:G:Switzerland:P
+CO=57:00:EFG:0FG:G:Colombia:P
+NZ=64:00:EFG:0FG:G:New Zealand:P
+)");
+		const Site& at = GetParam().site;
+		m_Site.reset(new ZelDialRulesItem(at.country, at.extPrefix, 5, at.areaCode, 0, ""));
+	}
+
+	void TearDown() override
+	{
+		m_Site.reset();
+		ConfigFixture::TearDown();
+	}
+
+	ZelDialRulesItem* site() const
+	{
+		return m_Site.get();
+	}
+
+	static ZelNumberingRules* rules()
+	{
+		return ZelNumberingRules::getInstance();
+	}
+
+private:
+	std::unique_ptr<ZelDialRulesItem> m_Site;
+};
+
+TEST_P(CountryPlansEndToEndTest, MakesCanonicalNumber)
+{
+	EXPECT_EQ(GetParam().canonical, rules()->makeCanonicalNumber(site(), GetParam().input, ""));
+}
+
+TEST_P(CountryPlansEndToEndTest, MakesPhoneNumber)
+{
+	EXPECT_EQ(GetParam().dialled, rules()->makePhoneNumber(site(), GetParam().input));
+}
+
+TEST_P(CountryPlansEndToEndTest, MakesClid)
+{
+	Poco::AutoPtr<ZelClid> clid(rules()->makeClid(site(), GetParam().input));
+	ASSERT_FALSE(clid.isNull());
+	EXPECT_EQ(GetParam().clidNumber, clid->getNumber());
+	EXPECT_EQ(GetParam().clidOrigin, clid->getOrigin()->getName());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+	Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), [](const ::testing::TestParamInfo<Trip>& info) {
+		return std::string(info.param.name);
+	});
+
+} // namespace
+} // namespace test
+} // namespace numbering
