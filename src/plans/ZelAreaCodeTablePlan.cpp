@@ -102,6 +102,11 @@ void ZelAreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& ta
 	}
 }
 
+Logger* ZelAreaCodeTablePlan::planLogger() const
+{
+	return m_Logger;
+}
+
 std::string ZelAreaCodeTablePlan::takeAreaCode(std::string& rest, ZelDialRulesItem* rules)
 {
 	// AutoPtr's operator-> throws Poco::NullPointerException for a plan without a tree.

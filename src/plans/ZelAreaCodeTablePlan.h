@@ -46,6 +46,9 @@ protected:
 	/// applied. Throws Poco::NullPointerException when the plan has no tree.
 	std::string takeAreaCode(std::string& rest, ZelDialRulesItem* rules);
 
+	/// The subclass's logger, as given to the constructor.
+	Logger* planLogger() const;
+
 	/// True unless the file's "Translate" is something other than "1".
 	bool m_Translate;
 	/// Length of the longest area code read.

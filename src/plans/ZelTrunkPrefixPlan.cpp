@@ -27,14 +27,13 @@ ZelTrunkPrefixPlan::ZelTrunkPrefixPlan(Logger* logger,
 	const std::string& noCountryFileText,
 	const std::string& noDefaultFileText):
 	ZelAreaCodeTablePlan(logger, callingCode, className, noCountryFileText, noDefaultFileText),
-	m_PlanLogger(logger),
 	m_CountryHead("+" + callingCode + " ")
 {
 }
 
 std::string ZelTrunkPrefixPlan::qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules)
 {
-	ZelCNPTrace::logCall(m_PlanLogger, number, rules);
+	ZelCNPTrace::logCall(planLogger(), number, rules);
 	if (number.size() < MIN_DIGITS) return number;
 	std::string result;
 	if (readPass(Pass{number, number, rules, false}, result)) return result;

@@ -89,8 +89,6 @@ private:
 
 	bool readLocal(const Pass& pass, std::string& result);
 
-	/// The subclass's logger.
-	Logger* const m_PlanLogger;
 	const std::string m_CountryHead;
 };
 

@@ -89,6 +89,11 @@ std::string planRowName(const ::testing::TestParamInfo<PlanRow>& info)
 	return info.param.name;
 }
 
+void PrintTo(const PlanRow& row, std::ostream* os)
+{
+	*os << row.name;
+}
+
 std::string MorePlanTest::canonical(const std::string& callingCode)
 {
 	const PlanRow& row = GetParam();

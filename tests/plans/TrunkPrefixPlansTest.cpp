@@ -254,6 +254,11 @@ struct ConstructionRow
 	const char* noDefaultFile;
 };
 
+void PrintTo(const ConstructionRow& row, std::ostream* os)
+{
+	*os << row.callingCode;
+}
+
 const ConstructionRow CONSTRUCTIONS[] = {
 	{"31", "N9numbering9ZelCNP_31E", "No specific configuration file for Netherlands",
 		"No specific dialing rules configuration file"},

@@ -58,6 +58,11 @@ struct StripRow
 	std::vector<std::string> lines;
 };
 
+void PrintTo(const StripRow& row, std::ostream* os)
+{
+	*os << row.name;
+}
+
 const std::string NATIONAL = "number starts with national prefix:";
 
 const StripRow STRIPS[] = {
