@@ -1,0 +1,46 @@
+// ZelDialable_52.cpp
+
+#include "dialable/ZelDialable_52.h"
+
+#include "numbering/ZelNumberingConfig.h"
+
+#include <typeinfo>
+
+namespace numbering {
+namespace {
+
+const std::string LONG_DIST_LABEL = "52-MX makeLongDistDialableNumber() AreaNatPfx: '";
+
+} // namespace
+
+const std::string ZelDialable_52::PREFIX_MOBILE = "1";
+const std::string ZelDialable_52::PREFIX_MOBILE_LOCAL = "044";
+const std::string ZelDialable_52::PREFIX_MOBILE_DISTANT = "045";
+
+Logger* ZelDialable_52::logger = Logger::getLogger(typeid(ZelDialable_52).name());
+
+std::string ZelDialable_52::makeLongDistDialableNumber(
+	std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule, ZelDialRulesItem* site)
+{
+	std::string result;
+	result.reserve(ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+	if (areaNatPfx.compare(0, PREFIX_MOBILE.size(), PREFIX_MOBILE) == 0)
+	{
+		const std::string area = areaNatPfx.substr(PREFIX_MOBILE.size());
+		result += area == site->getAreaCode() ? PREFIX_MOBILE_LOCAL : PREFIX_MOBILE_DISTANT;
+		result += area;
+	}
+	else
+	{
+		result += rule->getLongDistPrefix();
+		result += areaNatPfx;
+	}
+	result += dest;
+	if (Logger::m_Traces)
+	{
+		logger->debug(longDistTrace(LONG_DIST_LABEL, areaNatPfx, dest, result));
+	}
+	return result;
+}
+
+} // namespace numbering

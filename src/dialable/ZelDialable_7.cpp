@@ -1,0 +1,45 @@
+// ZelDialable_7.cpp
+
+#include "dialable/ZelDialable_7.h"
+
+#include "numbering/ZelNumberingConfig.h"
+
+#include <typeinfo>
+
+namespace numbering {
+namespace {
+
+const std::string LONG_DIST_LABEL = "7-RU makeLongDistDialableNumber() AreaNatPfx: '";
+
+const std::string RUSSIA = "RU";
+
+const std::string::size_type DIALLED_LENGTH = 11;
+
+/// The long-distance prefix of "RU"; a configuration without that country dials no prefix rather than crash.
+std::string russianLongDistPrefix()
+{
+	ZelCountryRuleItem* russia = ZelNumberingConfig::getInstance()->getCountryRule(RUSSIA);
+	return russia ? russia->getLongDistPrefix() : std::string();
+}
+
+} // namespace
+
+Logger* ZelDialable_7::logger = Logger::getLogger(typeid(ZelDialable_7).name());
+
+std::string ZelDialable_7::makeLongDistDialableNumber(
+	std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem*, ZelDialRulesItem*)
+{
+	std::string result;
+	result.reserve(ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+	result += areaNatPfx;
+	result += dest;
+	const std::string prefix = russianLongDistPrefix();
+	if (prefix.size() + result.size() == DIALLED_LENGTH) result.insert(0, prefix);
+	if (Logger::m_Traces)
+	{
+		logger->debug(longDistTrace(LONG_DIST_LABEL, areaNatPfx, dest, result));
+	}
+	return result;
+}
+
+} // namespace numbering
