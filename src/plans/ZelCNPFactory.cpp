@@ -11,6 +11,7 @@
 #include "plans/ZelCNP_43.h"
 #include "plans/ZelCNP_44.h"
 #include "plans/ZelCNP_49.h"
+#include "plans/ZelCNP_52.h"
 #include "plans/ZelCNP_54.h"
 #include "plans/ZelCNP_57.h"
 #include "plans/ZelCNP_61.h"
@@ -30,6 +31,7 @@ ZelCNP* ZelCNPFactory::CreateInstance(std::string countryNumber)
 	if (countryNumber == "43") return new ZelCNP_43();
 	if (countryNumber == "44") return new ZelCNP_44();
 	if (countryNumber == "49") return new ZelCNP_49();
+	if (countryNumber == "52") return new ZelCNP_52();
 	if (countryNumber == "54") return new ZelCNP_54();
 	if (countryNumber == "57") return new ZelCNP_57();
 	if (countryNumber == "61") return new ZelCNP_61();
