@@ -3,9 +3,25 @@
 #include "JsonWriter.h"
 
 #include "Poco/JSON/Object.h"
+#include "Poco/TextConverter.h"
+#include "Poco/UTF8Encoding.h"
 
 namespace numbering {
 namespace tool {
+
+namespace {
+
+/// value with every byte sequence that is not UTF-8 replaced by "?": JSON text must be UTF-8, and input lines
+/// may hold anything.
+std::string validUtf8(const std::string& value)
+{
+	Poco::UTF8Encoding utf8;
+	std::string valid;
+	Poco::TextConverter(utf8, utf8).convert(value, valid);
+	return valid;
+}
+
+} // namespace
 
 JsonWriter::JsonWriter(const std::vector<std::string>& columns, std::ostream& out):
 	ResultWriter(columns, out)
@@ -17,7 +33,7 @@ void JsonWriter::write(const Row& row)
 {
 	Poco::JSON::Object object(Poco::JSON_PRESERVE_KEY_ORDER);
 	for (std::size_t i = 0; i < columns().size() && i < row.values.size(); ++i)
-		object.set(columns()[i], row.values[i]);
+		object.set(columns()[i], validUtf8(row.values[i]));
 	out() << (m_First ? "\n" : ",\n");
 	object.stringify(out());
 	m_First = false;

@@ -11,6 +11,7 @@
 #include "ResultWriter.h"
 
 #include "Poco/NumberParser.h"
+#include "Poco/Path.h"
 #include "Poco/Util/HelpFormatter.h"
 #include "Poco/Util/IntValidator.h"
 #include "Poco/Util/Option.h"
@@ -133,7 +134,7 @@ int NumberingApp::execute(const Command& command, const std::vector<std::string>
 	if (command.needsSite() && !m_Site.hasCountry()) return usageError("--country is required for this command");
 	if (!m_ConfigDirectory.empty()) ZelNumberingConfig::setConfigDirectory(m_ConfigDirectory);
 	ZelNumberingRules& rules = *ZelNumberingRules::getInstance();
-	const ConfigurationCheck check(NUMBERING_SAMPLE_CONFIG_DIR);
+	const ConfigurationCheck check(installedSampleDirectory());
 	// Cleaning a number is the one conversion that needs no configuration.
 	if ((command.needsSite() || !command.takesNumbers()) && !check.loaded(rules))
 	{
@@ -167,6 +168,15 @@ int NumberingApp::execute(const Command& command, const std::vector<std::string>
 	}
 	writer->finish();
 	return allConverted ? ALL_CONVERTED : SOME_EMPTY;
+}
+
+std::string NumberingApp::installedSampleDirectory() const
+{
+	// The tool is installed in <prefix>/bin and the sample in <prefix>/share, whatever the prefix.
+	Poco::Path directory(config().getString("application.dir"));
+	directory.popDirectory();
+	directory.append(Poco::Path(NUMBERING_SAMPLE_CONFIG_SUBDIR));
+	return directory.toString();
 }
 
 void NumberingApp::displayHelp() const

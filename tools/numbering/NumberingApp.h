@@ -44,6 +44,9 @@ protected:
 private:
 	int execute(const Command& command, const std::vector<std::string>& numbers);
 
+	/// Where the sample configuration is installed, beside the tool.
+	std::string installedSampleDirectory() const;
+
 	void displayHelp() const;
 
 	bool m_HelpRequested = false;

@@ -1,0 +1,282 @@
+// SampleConfigTest.cpp
+
+#include "numbering/ZelDialRulesItem.h"
+#include "numbering/ZelNumberingConfig.h"
+#include "numbering/ZelNumberingRules.h"
+
+#include "support/ConfigFixture.h"
+
+#include "Poco/AutoPtr.h"
+#include "Poco/Format.h"
+#include "Poco/Util/PropertyFileConfiguration.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+using numbering::ZelDialRulesItem;
+using numbering::ZelNumberingConfig;
+using numbering::ZelNumberingRules;
+
+namespace {
+
+/// The library reads the committed sample configuration itself, not a copy.
+class SampleConfigTest: public numbering::test::ConfigFixture
+{
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		ZelNumberingConfig::setConfigDirectory(NUMBERING_SAMPLE_CONFIG);
+	}
+
+	static ZelNumberingRules* rules()
+	{
+		return ZelNumberingRules::getInstance();
+	}
+
+	/// A site in country with its capital's area code and external prefix 9 (0 would make numbers with a
+	/// trunk prefix ambiguous in the open plans).
+	static ZelDialRulesItem site(const std::string& country, const std::string& areaCode)
+	{
+		return ZelDialRulesItem(country, "9", 5, areaCode, 0, "");
+	}
+};
+
+template <typename Param>
+std::string caseName(const ::testing::TestParamInfo<Param>& info)
+{
+	return info.param.name;
+}
+
+/// Every case prints as its name.
+template <typename Param>
+void printName(const Param& param, std::ostream* os)
+{
+	*os << param.name;
+}
+
+struct CallingCode
+{
+	const char* name;
+	const char* number;
+	const char* country;
+};
+
+void PrintTo(const CallingCode& param, std::ostream* os)
+{
+	printName(param, os);
+}
+
+class SampleCallingCodeTest: public SampleConfigTest, public ::testing::WithParamInterface<CallingCode>
+{
+};
+
+TEST_P(SampleCallingCodeTest, ResolvesToItsMainCountry)
+{
+	EXPECT_EQ(GetParam().country, rules()->getCountryCodeFromNumber(GetParam().number));
+}
+
+// The calling codes that have a numbering plan.
+INSTANTIATE_TEST_SUITE_P(PlanCountries,
+	SampleCallingCodeTest,
+	::testing::Values(CallingCode{"NorthAmerica", "1", "US"},
+		CallingCode{"Russia", "7", "RU"},
+		CallingCode{"Netherlands", "31", "NL"},
+		CallingCode{"Belgium", "32", "BE"},
+		CallingCode{"France", "33", "FR"},
+		CallingCode{"Switzerland", "41", "CH"},
+		CallingCode{"Austria", "43", "AT"},
+		CallingCode{"UnitedKingdom", "44", "GB"},
+		CallingCode{"Germany", "49", "DE"},
+		CallingCode{"Mexico", "52", "MX"},
+		CallingCode{"Argentina", "54", "AR"},
+		CallingCode{"Colombia", "57", "CO"},
+		CallingCode{"Australia", "61", "AU"},
+		CallingCode{"NewZealand", "64", "NZ"},
+		CallingCode{"Ireland", "353", "IE"}),
+	caseName<CallingCode>);
+
+TEST_F(SampleConfigTest, NamesEveryCountryWithACallingCode)
+{
+	const std::vector<std::string>& names = rules()->getCountryList();
+	EXPECT_LE(240u, names.size());
+	for (const std::string& name : names)
+		EXPECT_NE("", ZelNumberingConfig::getInstance()->getCountryNumber(rules()->getCountryCode(name))) << name;
+}
+
+/// One area-code table: the national number "0" + code + subscriber must keep the code as its area, for every
+/// code of the file, which also shows that the plan stored every code.
+struct Table
+{
+	const char* name;
+	const char* country;
+	const char* callingCode;
+	const char* siteArea;
+	std::size_t fewestCodes;
+	/// Length of area code and subscriber together for the closed plans, 0 for a 6-digit subscriber number.
+	std::size_t nationalLength;
+};
+
+void PrintTo(const Table& param, std::ostream* os)
+{
+	printName(param, os);
+}
+
+class SampleAreaCodeTableTest: public SampleConfigTest, public ::testing::WithParamInterface<Table>
+{
+protected:
+	static std::vector<std::string> codes(const std::string& callingCode)
+	{
+		Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> file(new Poco::Util::PropertyFileConfiguration(
+			std::string(NUMBERING_SAMPLE_CONFIG) + "r7731cnp_" + callingCode + "_default.properties"));
+		std::vector<std::string> all;
+		for (int i = 0; file->has(Poco::format("AC_%04d", i)); ++i)
+			all.push_back(file->getString(Poco::format("AC_%04d", i)));
+		return all;
+	}
+
+	/// Subscriber digits after code that do not begin another, longer code of the table.
+	static std::string subscriber(const std::string& code, std::size_t length, const std::vector<std::string>& all)
+	{
+		for (char first = '2'; first <= '8'; ++first)
+		{
+			const std::string candidate = first + std::string(length - 1, '3');
+			bool extendsAnother = false;
+			for (const std::string& other : all)
+				extendsAnother =
+					extendsAnother || (other.size() > code.size() && (code + candidate).rfind(other, 0) == 0);
+			if (!extendsAnother) return candidate;
+		}
+		return std::string(length, '3');
+	}
+};
+
+TEST_P(SampleAreaCodeTableTest, ReadsEveryCodeAsTheAreaOfANationalNumber)
+{
+	const Table& table = GetParam();
+	const std::vector<std::string> all = codes(table.callingCode);
+	ZelDialRulesItem at = site(table.country, table.siteArea);
+	EXPECT_LE(table.fewestCodes, all.size());
+	std::vector<std::string> misread;
+	for (const std::string& code : all)
+	{
+		const std::string sub = subscriber(code, table.nationalLength ? table.nationalLength - code.size() : 6, all);
+		const std::string expected = std::string("+") + table.callingCode + " (" + code + ") " + sub;
+		if (rules()->makeCanonicalNumber(&at, "0" + code + sub, "") != expected) misread.push_back(code);
+	}
+	EXPECT_EQ(std::vector<std::string>(), misread);
+}
+
+// The fewest codes are the counts the public numbering data gives, mobile and service codes left aside.
+INSTANTIATE_TEST_SUITE_P(TablePlans,
+	SampleAreaCodeTableTest,
+	::testing::Values(Table{"Netherlands", "NL", "31", "20", 141, 9},
+		Table{"Belgium", "BE", "32", "2", 40, 8},
+		Table{"Austria", "AT", "43", "1", 1020, 0},
+		Table{"UnitedKingdom", "GB", "44", "20", 600, 10},
+		Table{"Germany", "DE", "49", "30", 5200, 0},
+		Table{"Argentina", "AR", "54", "11", 300, 10},
+		Table{"Australia", "AU", "61", "2", 4, 9},
+		Table{"Ireland", "IE", "353", "1", 49, 0}),
+	caseName<Table>);
+
+/// A well-known number of a plan country, dialled at a site in its capital, and the canonical form a person
+/// of that country expects, laid out by the sample mask.
+struct WellKnown
+{
+	const char* name;
+	const char* country;
+	const char* siteArea;
+	const char* dialled;
+	const char* expected;
+};
+
+void PrintTo(const WellKnown& param, std::ostream* os)
+{
+	printName(param, os);
+}
+
+class SampleWellKnownNumberTest: public SampleConfigTest, public ::testing::WithParamInterface<WellKnown>
+{
+};
+
+TEST_P(SampleWellKnownNumberTest, BecomesTheExpectedCanonicalForm)
+{
+	ZelDialRulesItem at = site(GetParam().country, GetParam().siteArea);
+	EXPECT_EQ(GetParam().expected, rules()->makeCanonicalNumber(&at, GetParam().dialled, ""));
+}
+
+INSTANTIATE_TEST_SUITE_P(PlanCountries,
+	SampleWellKnownNumberTest,
+	::testing::Values(WellKnown{"ParisSwitchboard", "FR", "1", "01 42 92 81 00", "+33 1 42 92 81 00"},
+		WellKnown{"FrenchMobile", "FR", "1", "06 12 34 56 78", "+33 6 12 34 56 78"},
+		WellKnown{"FrenchFreephone", "FR", "1", "0800 123 456", "+33 8 00 12 34 56"},
+		WellKnown{"BerlinSwitchboard", "DE", "30", "030 18272-0", "+49 (30) 182720"},
+		WellKnown{"GermanMobile", "DE", "30", "0151 12345678", "+49 (151) 12345678"},
+		WellKnown{"GermanFreephone", "DE", "30", "0800 1234567", "+49 (800) 1234567"},
+		WellKnown{"WashingtonSwitchboard", "US", "202", "202-456-1414", "+1 (202) 4561414"},
+		WellKnown{"AmericanFreephone", "US", "202", "1 800 555 0199", "+1 (800) 5550199"},
+		WellKnown{"MoscowSwitchboard", "RU", "495", "8 495 123-45-67", "+7 (495) 1234567"},
+		WellKnown{"RussianMobile", "RU", "495", "8 916 123-45-67", "+7 (916) 1234567"},
+		WellKnown{"RussianFreephone", "RU", "495", "8 800 123-45-67", "+7 (800) 1234567"},
+		WellKnown{"AmsterdamSwitchboard", "NL", "20", "020 552 9111", "+31 (20) 5529111"},
+		WellKnown{"DutchMobile", "NL", "20", "06 12345678", "+31 (0) 612345678"},
+		WellKnown{"DutchFreephone", "NL", "20", "0800 1234", "+31 (0) 8001234"},
+		WellKnown{"BrusselsSwitchboard", "BE", "2", "02 501 02 11", "+32 (2) 5010211"},
+		WellKnown{"BelgianMobile", "BE", "2", "0475 12 34 56", "+32 (0) 475123456"},
+		WellKnown{"BelgianFreephone", "BE", "2", "0800 12 345", "+32 (0) 80012345"},
+		WellKnown{"BernSwitchboard", "CH", "31", "031 322 21 11", "+41 (31) 3222111"},
+		WellKnown{"SwissMobile", "CH", "31", "079 123 45 67", "+41 (79) 1234567"},
+		WellKnown{"SwissFreephone", "CH", "31", "0800 123 456", "+41 800123456"},
+		WellKnown{"ViennaSwitchboard", "AT", "1", "01 531 15-0", "+43 (1) 531150"},
+		WellKnown{"AustrianMobile", "AT", "1", "0664 1234567", "+43 (664) 1234567"},
+		WellKnown{"AustrianFreephone", "AT", "1", "0800 123456", "+43 (800) 123456"},
+		WellKnown{"LondonSwitchboard", "GB", "20", "020 7930 4832", "+44 (20) 79304832"},
+		WellKnown{"BritishMobile", "GB", "20", "07911 123456", "+44 (0) 7911123456"},
+		WellKnown{"BritishFreephone", "GB", "20", "0800 123 4567", "+44 (0) 8001234567"},
+		WellKnown{"MexicoCitySwitchboard", "MX", "55", "55 1234 5678", "+52 (55) 12345678"},
+		WellKnown{"MexicanFreephone", "MX", "55", "800 123 4567", "+52 (800) 1234567"},
+		WellKnown{"BuenosAiresSwitchboard", "AR", "11", "011 4321-1234", "+54 (11) 43211234"},
+		WellKnown{"ArgentineMobile", "AR", "11", "011 15 2345-6789", "+54 (911) 23456789"},
+		WellKnown{"ArgentineFreephone", "AR", "11", "0800 123 4567", "+54 (800) 1234567"},
+		WellKnown{"BogotaSwitchboard", "CO", "1", "09 1 234 5678", "+57 (1) 2345678"},
+		WellKnown{"CanberraSwitchboard", "AU", "2", "02 6277 7111", "+61 (2) 62777111"},
+		WellKnown{"AustralianMobile", "AU", "2", "0412 345 678", "+61 (0) 412345678"},
+		WellKnown{"AustralianFreephone", "AU", "2", "1800 123 456", "+61 1800 123456"},
+		WellKnown{"WellingtonSwitchboard", "NZ", "4", "04 817 9999", "+64 (4) 8179999"},
+		WellKnown{"NewZealandMobile", "NZ", "4", "021 123 4567", "+64 (21) 1234567"},
+		WellKnown{"NewZealandFreephone", "NZ", "4", "0800 123 456", "+64 (800) 123456"},
+		WellKnown{"DublinSwitchboard", "IE", "1", "01 234 5678", "+353 (1) 2345678"},
+		WellKnown{"IrishMobile", "IE", "1", "087 123 4567", "+353 (87) 1234567"},
+		WellKnown{"IrishFreephoneStaysDomestic", "IE", "1", "1800 123 456", "1800123456"}),
+	caseName<WellKnown>);
+
+/// Colombian sites dial a carrier code after the prefix: the sample's carriers are recognised and dropped on a
+/// call abroad, and the default carrier 9 is dialled on long-distance calls.
+class SampleColombianOperatorTest: public SampleConfigTest, public ::testing::WithParamInterface<WellKnown>
+{
+};
+
+TEST_P(SampleColombianOperatorTest, RecognisesTheCarrierAfterTheInternationalPrefix)
+{
+	ZelDialRulesItem bogota = site("CO", "1");
+	EXPECT_EQ(GetParam().expected, rules()->makeCanonicalNumber(&bogota, GetParam().dialled, ""));
+}
+
+INSTANTIATE_TEST_SUITE_P(Carriers,
+	SampleColombianOperatorTest,
+	::testing::Values(WellKnown{"Carrier5", "CO", "1", "005 33 1 23 45 67 89", "+33 1 23 45 67 89"},
+		WellKnown{"Carrier7", "CO", "1", "007 33 1 23 45 67 89", "+33 1 23 45 67 89"},
+		WellKnown{"Carrier9", "CO", "1", "009 33 1 23 45 67 89", "+33 1 23 45 67 89"}),
+	caseName<WellKnown>);
+
+TEST_F(SampleConfigTest, DialsTheDefaultColombianCarrierOnLongDistanceCalls)
+{
+	ZelDialRulesItem medellin = site("CO", "4");
+	EXPECT_EQ("90912345678", rules()->makePhoneNumber(&medellin, "+57 (1) 2345678"));
+}
+
+} // namespace
