@@ -2,6 +2,9 @@
 
 #include "trees/ZelCharsTreeElement.h"
 
+#include <utility>
+#include <vector>
+
 namespace numbering {
 
 int ZelCharsTreeElement::_count = 0;
@@ -16,28 +19,44 @@ ZelCharsTreeElement::ZelCharsTreeElement(char c):
 
 ZelCharsTreeElement::~ZelCharsTreeElement()
 {
-	for (auto& child : m_Elements)
-		delete child.second;
+	// Freed through a work list rather than by recursion, so that a very long stored code cannot exhaust the
+	// stack: each node is emptied before it is deleted.
+	std::vector<ZelCharsTreeElement*> pending;
+	takeChildren(pending);
+	while (!pending.empty())
+	{
+		ZelCharsTreeElement* node = pending.back();
+		pending.pop_back();
+		node->takeChildren(pending);
+		delete node;
+	}
 	--_count;
 }
 
 void ZelCharsTreeElement::insert(ZelCharsTreeElement* e)
 {
-	if (e == nullptr) return;
-	auto found = m_Elements.find(e->getCharacter());
-	if (found == m_Elements.end())
+	// A work list of (target, subtree) pairs instead of recursion, for the same reason as in the destructor.
+	std::vector<std::pair<ZelCharsTreeElement*, ZelCharsTreeElement*>> merges{{this, e}};
+	while (!merges.empty())
 	{
-		m_Elements[e->getCharacter()] = e;
-		return;
+		auto [target, element] = merges.back();
+		merges.pop_back();
+		if (element == nullptr) continue;
+		auto found = target->m_Elements.find(element->getCharacter());
+		if (found == target->m_Elements.end())
+		{
+			target->m_Elements[element->getCharacter()] = element;
+			continue;
+		}
+		ZelCharsTreeElement* existing = found->second;
+		if (existing == element) continue;
+		// The existing node keeps its own mark: a string that is already a path stays unmarked, which the
+		// area-code tree relies on when it refuses such codes.
+		for (auto& child : element->getElements())
+			merges.emplace_back(existing, child.second);
+		element->getElements().clear();
+		delete element;
 	}
-	ZelCharsTreeElement* existing = found->second;
-	if (existing == e) return;
-	// The existing node keeps its own mark: a string that is already a path stays unmarked, which the
-	// area-code tree relies on when it refuses such codes.
-	for (auto& child : e->getElements())
-		existing->insert(child.second);
-	e->getElements().clear();
-	delete e;
 }
 
 void ZelCharsTreeElement::insert(std::string s)
@@ -109,6 +128,15 @@ void ZelCharsTreeElement::duplicate()
 void ZelCharsTreeElement::release()
 {
 	if (--m_RefCount == 0) delete this;
+}
+
+void ZelCharsTreeElement::takeChildren(std::vector<ZelCharsTreeElement*>& nodes)
+{
+	for (auto& child : m_Elements)
+	{
+		if (child.second != nullptr) nodes.push_back(child.second);
+	}
+	m_Elements.clear();
 }
 
 void ZelCharsTreeElement::setAreaCode(bool areaCode)

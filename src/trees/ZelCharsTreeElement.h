@@ -7,6 +7,7 @@
 #include "Poco/HashMap.h"
 
 #include <string>
+#include <vector>
 
 namespace numbering {
 
@@ -67,6 +68,9 @@ public:
 	static int _count;
 
 private:
+	/// Moves the non-null children into nodes and empties the children map.
+	void takeChildren(std::vector<ZelCharsTreeElement*>& nodes);
+
 	char m_Character;
 	bool m_AreaCode;
 	Poco::HashMap<char, ZelCharsTreeElement*> m_Elements;
