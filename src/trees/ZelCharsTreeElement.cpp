@@ -20,7 +20,7 @@ ZelCharsTreeElement::ZelCharsTreeElement(char c):
 ZelCharsTreeElement::~ZelCharsTreeElement()
 {
 	// Freed through a work list rather than by recursion, so that a very long stored code cannot exhaust the
-	// stack: each node is emptied before it is deleted.
+	// stack: each node gives up its children before it is deleted.
 	std::vector<ZelCharsTreeElement*> pending;
 	takeChildren(pending);
 	while (!pending.empty())
@@ -132,11 +132,12 @@ void ZelCharsTreeElement::release()
 
 void ZelCharsTreeElement::takeChildren(std::vector<ZelCharsTreeElement*>& nodes)
 {
+	// The entries are nulled rather than erased: clearing a Poco hash map allocates a fresh table.
 	for (auto& child : m_Elements)
 	{
 		if (child.second != nullptr) nodes.push_back(child.second);
+		child.second = nullptr;
 	}
-	m_Elements.clear();
 }
 
 void ZelCharsTreeElement::setAreaCode(bool areaCode)

@@ -68,7 +68,7 @@ public:
 	static int _count;
 
 private:
-	/// Moves the non-null children into nodes and empties the children map.
+	/// Appends the non-null children to nodes and leaves null entries behind.
 	void takeChildren(std::vector<ZelCharsTreeElement*>& nodes);
 
 	char m_Character;
