@@ -184,7 +184,7 @@ private:
 	{
 		const std::string rest = m_Working.substr(intl.size());
 		const std::string op = ZelRulesSupport::requireDialable(rule->getCountryNumber())->extractOperatorPrefix(rest);
-		const std::string countryNumber = m_Config->extractCountryNumber(m_Working.substr(intl.size() + op.size()));
+		const std::string countryNumber = m_Config->extractCountryNumber(rest.substr(op.size()));
 		const std::string foreignCode = m_Config->getCountryCodeFromNumber(countryNumber);
 		if (foreignCode.empty())
 		{
@@ -199,7 +199,7 @@ private:
 			debug("International number detected : '" + m_Working + "' with CountryCode '" + foreignCode + "'");
 		}
 		const std::string ld = ZelRulesSupport::requireCountryRule(m_Config, foreignCode)->getLongDistPrefix();
-		const std::string subscriber = m_Working.substr(intl.size() + op.size() + countryNumber.size());
+		const std::string subscriber = rest.substr(op.size() + countryNumber.size());
 		// Calling one's own country from abroad is a national call, and the carrier chosen for it still applies.
 		m_Working = foreignCode == m_CountryCode ? ld + op + subscriber : ld + subscriber;
 		useTemporaryItem(foreignCode);

@@ -7,6 +7,7 @@
 #include "Poco/String.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace numbering {
 
@@ -123,6 +124,11 @@ std::string dialContext(const std::string& number, ZelDialRulesItem* item)
 
 std::string ZelNumberingRules::makeDialableNumber(ZelDialRulesItem* item, std::string canonicalNumber)
 {
+	// Hosts may call this unguarded operation directly: a missing site is reported, not dereferenced.
+	if (item == nullptr)
+	{
+		throw std::invalid_argument("'myZelDialRulesItem' parameter can not be null");
+	}
 	const std::string countryId = item->getCountryId();
 	if (Logger::m_Traces)
 	{

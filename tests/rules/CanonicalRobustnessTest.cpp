@@ -65,7 +65,7 @@ TEST_F(FacadeRobustnessTest, SurvivesHostileNumbersAtEverySite)
 	std::vector<std::string> inputs = adversarialInputs();
 	const std::vector<std::string> random = randomInputs(3000);
 	inputs.insert(inputs.end(), random.begin(), random.end());
-	for (const char* name : {"Berlin", "BerlinDirect", "Unconfigured"})
+	for (const char* name : {"Berlin", "BerlinDirect", "Unconfigured", "none"})
 	{
 		ZelDialRulesItem* item = site(name);
 		for (std::size_t i = 0; i < inputs.size(); ++i)
