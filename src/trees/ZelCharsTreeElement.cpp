@@ -7,11 +7,27 @@
 
 namespace numbering {
 
+namespace {
+
+using Children = Poco::HashMap<char, ZelCharsTreeElement*>;
+
+/// An empty children map to copy from. A default-constructed map reserves 64 buckets (1.5 KB) while most nodes
+/// of an area-code table have one child or none; a copy holds the one bucket of an empty map and grows with
+/// its children, which keeps a country's full table in a fraction of the memory.
+const Children& noChildren()
+{
+	static const Children empty;
+	return empty;
+}
+
+} // namespace
+
 int ZelCharsTreeElement::_count = 0;
 
 ZelCharsTreeElement::ZelCharsTreeElement(char c):
 	m_Character(c),
 	m_AreaCode(false),
+	m_Elements(noChildren()),
 	m_RefCount(1)
 {
 	++_count;
@@ -54,7 +70,9 @@ void ZelCharsTreeElement::insert(ZelCharsTreeElement* e)
 		// area-code tree relies on when it refuses such codes.
 		for (auto& child : element->getElements())
 			merges.emplace_back(existing, child.second);
-		element->getElements().clear();
+		// Emptied by a swap: clear() would reserve a full-size table for a node about to go.
+		Children handedOn(noChildren());
+		element->getElements().swap(handedOn);
 		delete element;
 	}
 }
