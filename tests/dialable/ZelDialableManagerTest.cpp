@@ -3,8 +3,15 @@
 #include "dialable/ZelDialableManager.h"
 
 #include "dialable/ZelDialableFactory.h"
+#include "dialable/ZelDialable_52.h"
+#include "dialable/ZelDialable_54.h"
+#include "dialable/ZelDialable_57.h"
+#include "dialable/ZelDialable_61.h"
+#include "dialable/ZelDialable_7.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+
+#include "Poco/AutoPtr.h"
 
 #include <gtest/gtest.h>
 
@@ -55,15 +62,40 @@ TEST_F(ZelDialableManagerTest, EmptyCountryNumberGetsNoMaker)
 	EXPECT_EQ(2, LogCapture::count("loadDialableClass('strCountryNumber=NULL')"));
 }
 
-TEST(ZelDialableFactoryTest, CountriesWithoutVariantGetTheGenericMaker)
+struct FactoryCase
 {
-	for (const char* countryNumber : {"", "1", "33", "610", "077"})
-	{
-		ZelDialable* maker = ZelDialableFactory::CreateInstance(countryNumber);
-		EXPECT_EQ(typeid(ZelDialable), typeid(*maker)) << "country number '" << countryNumber << "'";
-		maker->release();
-	}
+	const char* name;
+	std::string countryNumber;
+	const std::type_info& made;
+};
+
+class ZelDialableFactoryTest: public test::ConfigFixture, public ::testing::WithParamInterface<FactoryCase>
+{
+};
+
+/// Variants are chosen by the whole country number: neighbours and padded forms get the generic maker.
+TEST_P(ZelDialableFactoryTest, MakesTheClassOfTheExactCountryNumber)
+{
+	const FactoryCase& c = GetParam();
+	Poco::AutoPtr<ZelDialable> maker(ZelDialableFactory::CreateInstance(c.countryNumber));
+	ASSERT_FALSE(maker.isNull());
+	EXPECT_EQ(c.made, typeid(*maker));
 }
+
+INSTANTIATE_TEST_SUITE_P(CountryNumbers,
+	ZelDialableFactoryTest,
+	::testing::Values(FactoryCase{"Australia", "61", typeid(ZelDialable_61)},
+		FactoryCase{"Russia", "7", typeid(ZelDialable_7)},
+		FactoryCase{"Mexico", "52", typeid(ZelDialable_52)},
+		FactoryCase{"Argentina", "54", typeid(ZelDialable_54)},
+		FactoryCase{"Colombia", "57", typeid(ZelDialable_57)},
+		FactoryCase{"Empty", "", typeid(ZelDialable)},
+		FactoryCase{"NorthAmerica", "1", typeid(ZelDialable)},
+		FactoryCase{"NewZealand", "64", typeid(ZelDialable)},
+		FactoryCase{"LongerNumber", "610", typeid(ZelDialable)},
+		FactoryCase{"LeadingZero", "07", typeid(ZelDialable)},
+		FactoryCase{"Padded", " 7", typeid(ZelDialable)}),
+	[](const ::testing::TestParamInfo<FactoryCase>& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace numbering

@@ -128,6 +128,15 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		LayoutCase{"AreaWithoutClosingParenthesis", "+33 )1(2", "+C (A)", ""}),
 	caseName<LayoutCase>);
 
+TEST_F(ZelNumberingRulesFormattingTest, ErrorLineQuotesTheMaskThatStoodInForAnEmptyPattern)
+{
+	EXPECT_EQ("+33(1)23", m_Rules->formatCanonicalNumber("+33(1)23", ""));
+	const std::vector<std::string> errors = errorLines();
+	ASSERT_EQ(1u, errors.size());
+	const std::string tail = " - strCanPhoneNumberFinal: '+33(1)23', strPattern: '+C (a) xx xx xx xx'";
+	EXPECT_EQ(errors[0].size() - tail.size(), errors[0].rfind(tail)) << errors[0];
+}
+
 struct GSMCase
 {
 	const char* name;
@@ -156,6 +165,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		GSMCase{"AreaKept", "+49 (30) 1234567", "+49301234567"},
 		GSMCase{"SubscriberCopiedAsItStands", "+33 (1) 23 45", "+33123 45"},
 		GSMCase{"UnknownCountryKeepsArea", "+999 (0) 12", "+999012"},
+		GSMCase{"NothingAfterTheArea", "+33 (1) ", "+331"},
 		GSMCase{"WithoutParenthesesUnchanged", "+4912345", "+4912345"},
 		GSMCase{"ServiceCodeUnchanged", "+33 (1) ***12", "+33 (1) ***12"}),
 	caseName<GSMCase>);
@@ -207,6 +217,8 @@ INSTANTIATE_TEST_SUITE_P(Countries,
 		DefaultCase{"TrunkStandsForMissingArea", "0201234567", "GB", "", "+44 (0) 201234567"},
 		DefaultCase{"TrunkRemovedFromArea", "0201234567", "GB", "020", "+44 (20) 1234567"},
 		DefaultCase{"NumberNotBeginningWithArea", "0312345", "GB", "20", "+44 (20) 312345"},
+		DefaultCase{"AreaThatIsOnlyTheTrunk", "0201234567", "GB", "0", "+44 (0) 201234567"},
+		DefaultCase{"NumberWithoutTrunk", "201234567", "GB", "20", "+44 (20) 1234567"},
 		DefaultCase{"NoAreaDialledKeepsTrunkOnly", "0612345678", "IT", "6", "+39 (0) 612345678"},
 		DefaultCase{"NeitherAreaNorTrunk", "912345678", "ES", "91", "+34 912345678"},
 		DefaultCase{"AreaWithoutTrunk", "2125551234", "US", "212", "+1 (212) 5551234"},
