@@ -2,8 +2,9 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
+#include "config/ZelPropertyFile.h"
+
 #include "Poco/Exception.h"
-#include "Poco/File.h"
 #include "Poco/String.h"
 #include "Poco/StringTokenizer.h"
 #include "Poco/Util/PropertyFileConfiguration.h"
@@ -58,18 +59,11 @@ std::string configPath(const char* name)
 	return configDirectory() + name;
 }
 
-Properties openProperties(const std::string& path)
-{
-	// The property reader loops for ever on a stream that fails to read, as a directory does.
-	if (Poco::File(path).isDirectory()) throw Poco::OpenFileException(path);
-	return new Poco::Util::PropertyFileConfiguration(path);
-}
-
 Properties openWithFallback(Logger* logger, const PropertySource& source)
 {
 	try
 	{
-		return openProperties(source.file);
+		return ZelPropertyFile::open(source.file);
 	}
 	catch (Poco::FileNotFoundException&)
 	{
@@ -78,7 +72,7 @@ Properties openWithFallback(Logger* logger, const PropertySource& source)
 	{
 	}
 	logger->info(source.missingText);
-	return openProperties(source.defaultFile);
+	return ZelPropertyFile::open(source.defaultFile);
 }
 
 /// Opens the source and hands each top-level key to visit; logs any failure and returns false then.

@@ -2,8 +2,9 @@
 
 #include "dialable/ZelDialable_57.h"
 
+#include "config/ZelPropertyFile.h"
+
 #include "Poco/Exception.h"
-#include "Poco/File.h"
 #include "Poco/NumberFormatter.h"
 #include "Poco/Util/PropertyFileConfiguration.h"
 
@@ -26,14 +27,6 @@ std::string digitsOf(const std::string& value)
 	std::copy_if(
 		value.begin(), value.end(), std::back_inserter(digits), [](unsigned char c) { return std::isdigit(c) != 0; });
 	return digits;
-}
-
-/// A directory in a plan file's place counts as a file that cannot be opened: the property reader would never
-/// see its end.
-Poco::Util::PropertyFileConfiguration* openPlanFile(const std::string& path)
-{
-	if (Poco::File(path).isDirectory()) throw Poco::OpenFileException(path);
-	return new Poco::Util::PropertyFileConfiguration(path);
 }
 
 bool hasRuleLetter(const std::string& rule, char letter)
@@ -68,17 +61,17 @@ void ZelDialable_57::loadOperators()
 		Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> plan;
 		try
 		{
-			plan = openPlanFile(directory + PLAN_FILE);
+			plan = ZelPropertyFile::open(directory + PLAN_FILE);
 		}
 		catch (const Poco::FileNotFoundException&)
 		{
 			logger->info("No specific configuration file for Colombia");
-			plan = openPlanFile(directory + PLAN_DEFAULT_FILE);
+			plan = ZelPropertyFile::open(directory + PLAN_DEFAULT_FILE);
 		}
 		catch (const Poco::OpenFileException&)
 		{
 			logger->info("No specific dialing rules configuration file");
-			plan = openPlanFile(directory + PLAN_DEFAULT_FILE);
+			plan = ZelPropertyFile::open(directory + PLAN_DEFAULT_FILE);
 		}
 		m_OperatorCode = plan->getString(OP_DEFAULT_KEY, m_OperatorCode);
 		// The first missing key throws and ends the list, so a gap hides every prefix after it.

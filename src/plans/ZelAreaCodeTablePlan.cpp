@@ -4,6 +4,8 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
+#include "config/ZelPropertyFile.h"
+
 #include "Poco/Exception.h"
 #include "Poco/Util/PropertyFileConfiguration.h"
 
@@ -32,7 +34,7 @@ Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> openTable(const std::string
 {
 	try
 	{
-		return new Poco::Util::PropertyFileConfiguration(path);
+		return ZelPropertyFile::open(path);
 	}
 	catch (const Poco::FileNotFoundException&)
 	{

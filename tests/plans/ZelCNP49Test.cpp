@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <iterator>
 #include <ostream>
 #include <string>
@@ -155,6 +156,13 @@ TEST_F(ZelCNP49Test, DefaultFileIsReadSilentlyWhenCountryFileIsMissing)
 	EXPECT_EQ("+49 (8031) 12345", convert("0", "7731", "0803112345"));
 	EXPECT_EQ("1234567", convert("0", "7731", "1234567"));
 	EXPECT_EQ(0, LogCapture::count(PLAN_LOGGER));
+}
+
+TEST_F(ZelCNP49Test, DirectoryInPlaceOfCountryFileFallsBackToDefaultFile)
+{
+	std::filesystem::create_directory(configDir() + "r7731cnp_49.properties");
+	writeFile("r7731cnp_49_default.properties", "AC_0000=8031\n");
+	EXPECT_EQ("+49 (8031) 12345", convert("0", "7731", "0803112345"));
 }
 
 TEST_F(ZelCNP49Test, CountryFileHidesDefaultFile)
