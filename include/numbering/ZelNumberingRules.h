@@ -59,10 +59,8 @@ public:
 	/// The canonical form laid out by pattern (or the country's mask when pattern is empty):
 	/// "030 1234567" at a Berlin site gives "+49 (30) 1234567". Internal numbers come back unchanged, service
 	/// codes as their digits and keypad characters; "" on failure.
-	virtual std::string makeCanonicalNumber(ZelDialRulesItem* item,
-		std::string number,
-		std::string pattern,
-		bool withExtPrefix);
+	virtual std::string makeCanonicalNumber(
+		ZelDialRulesItem* item, std::string number, std::string pattern, bool withExtPrefix);
 
 	/// What the site's exchange must dial, external prefix included; "" on failure.
 	virtual std::string makePhoneNumber(ZelDialRulesItem* item, std::string number);

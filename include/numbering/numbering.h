@@ -4,8 +4,8 @@
 #ifndef Numbering_numbering_INCLUDED
 #define Numbering_numbering_INCLUDED
 
-#include "numbering/NumberingApi.h"
 #include "numbering/Logger.h"
+#include "numbering/NumberingApi.h"
 #include "numbering/TypesafeEnum.h"
 #include "numbering/ZelClid.h"
 #include "numbering/ZelCountryRuleItem.h"

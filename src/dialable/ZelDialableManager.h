@@ -6,10 +6,10 @@
 
 #include "numbering/Logger.h"
 
+#include "dialable/ZelDialable.h"
+
 #include "Poco/AutoPtr.h"
 #include "Poco/HashMap.h"
-
-#include "dialable/ZelDialable.h"
 
 #include <string>
 

@@ -6,11 +6,11 @@
 
 #include "numbering/Logger.h"
 
+#include "plans/ZelCNP.h"
+
 #include "Poco/AutoPtr.h"
 #include "Poco/HashMap.h"
 #include "Poco/Mutex.h"
-
-#include "plans/ZelCNP.h"
 
 #include <string>
 #include <vector>
