@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 using numbering::test::LogCapture;
 
 namespace {
@@ -21,15 +23,16 @@ protected:
 
 TEST_F(LoggerTest, GetLoggerReturnsAFreshObjectEachCall)
 {
-	Logger* first = Logger::getLogger("same");
-	Logger* second = Logger::getLogger("same");
+	// The library keeps its loggers for the life of the process; the test gives its own back.
+	std::unique_ptr<Logger> first(Logger::getLogger("same"));
+	std::unique_ptr<Logger> second(Logger::getLogger("same"));
 	EXPECT_NE(first, second);
 	EXPECT_EQ("same", second->getName());
 }
 
 TEST_F(LoggerTest, WritesLevelWordNameSeparatorAndMessageAtLevelOne)
 {
-	Logger* logger = Logger::getLogger("N9numbering18ZelNumberingConfigE");
+	std::unique_ptr<Logger> logger(Logger::getLogger("N9numbering18ZelNumberingConfigE"));
 	logger->debug("loadDialingRules()");
 	logger->info("");
 	logger->error("boom");
