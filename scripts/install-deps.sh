@@ -2,7 +2,8 @@
 # Installs the Debian packages the build, the tests and the tools need, if any is missing.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ pkg-config clang-format libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev)
+packages=(cmake ninja-build g++ pkg-config clang-format libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev
+	clang-14 libclang-rt-14-dev llvm-14)
 
 missing=()
 for package in "${packages[@]}"; do
