@@ -18,6 +18,9 @@ bool isIn(const std::string& characters, char c)
 	return characters.find(c) != std::string::npos;
 }
 
+/// The memory of the instance that resetInstance ended, given back only once its successor exists.
+void* retiredInstance = nullptr;
+
 } // namespace
 
 ZelNumberingRules* ZelNumberingRules::instance = nullptr;
@@ -32,7 +35,12 @@ std::string ZelNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER = "*#ABCD";
 
 ZelNumberingRules* ZelNumberingRules::getInstance()
 {
-	if (!instance) instance = new ZelNumberingRules();
+	if (!instance)
+	{
+		instance = new ZelNumberingRules();
+		::operator delete(retiredInstance);
+		retiredInstance = nullptr;
+	}
 	return instance;
 }
 
@@ -45,12 +53,10 @@ void ZelNumberingRules::resetInstance()
 	config = nullptr;
 	if (instance)
 	{
-		// The destructor is not virtual because hosts depend on the virtual slot order, which has no destructor
-		// slot; the instance is always a plain ZelNumberingRules made by getInstance, so this delete is sound.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdelete-non-virtual-dtor"
-		delete instance;
-#pragma GCC diagnostic pop
+		// Hosts tell a rebuilt instance from the old one by its address, so the old memory is held until the
+		// next getInstance has its own; otherwise the allocator hands the same block straight back.
+		instance->~ZelNumberingRules();
+		retiredInstance = instance;
 		instance = nullptr;
 	}
 }

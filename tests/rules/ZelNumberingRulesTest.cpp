@@ -24,7 +24,8 @@ protected:
 	}
 };
 
-/// Counts the constructions by their trace line; the reset must also release the cached makers.
+/// Counts the constructions by their trace line; the reset must also release the cached makers, and a host
+/// holding the old pointer must see that it no longer names the instance.
 TEST_F(ZelNumberingRulesTest, GetInstanceBuildsOneFacadeUntilReset)
 {
 	Logger::m_Traces = true;
@@ -36,7 +37,7 @@ TEST_F(ZelNumberingRulesTest, GetInstanceBuildsOneFacadeUntilReset)
 	ZelNumberingRules::resetInstance();
 	EXPECT_EQ(makers, ZelDialable::_count);
 	EXPECT_TRUE(LogCapture::contains("DEBUG N9numbering17ZelNumberingRulesE - Releasing resources"));
-	ZelNumberingRules::getInstance();
+	EXPECT_NE(rules, ZelNumberingRules::getInstance());
 	EXPECT_EQ(2, LogCapture::count("ZelNumberingRules()"));
 }
 
