@@ -4,6 +4,7 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "SampleSitesFixture.h"
+#include "dialable/ZelDialable.h"
 #include "dialable/ZelDialableManager.h"
 #include "plans/ZelCNPManager.h"
 
@@ -16,6 +17,7 @@
 #include <vector>
 
 using numbering::ZelCNPManager;
+using numbering::ZelDialable;
 using numbering::ZelDialableManager;
 using numbering::ZelDialRulesItem;
 using numbering::ZelNumberingConfig;
@@ -88,6 +90,25 @@ TEST_F(ConcurrencyTest, EightThreadsGetTheSingleThreadedResults)
 												  << ", number '" << work[i].second << "'";
 		}
 	}
+}
+
+// The README's advice to hosts: one makePhoneNumber per configured country before going concurrent.
+TEST_F(ConcurrencyTest, WarmUpOfTheReadmeLeavesNoDialableMakerToBuild)
+{
+	const std::vector<std::pair<ZelDialRulesItem*, std::string>> work = workload();
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	ZelNumberingConfig* config = ZelNumberingConfig::getInstance();
+	for (const std::string& name : rules->getCountryList())
+	{
+		rules->makePhoneNumber(
+			work.front().first, "+" + config->getCountryNumber(rules->getCountryCode(name)) + " 1234567");
+	}
+	const int makers = ZelDialable::_count;
+	for (const auto& item : work)
+	{
+		convertAll(item.first, item.second);
+	}
+	EXPECT_EQ(makers, ZelDialable::_count);
 }
 
 } // namespace
