@@ -60,10 +60,10 @@ ZelCNP* ZelCNPManager::loadCNPClass(std::string countryKey)
 			if (!plan.isNull())
 			{
 				// The cache is searched with the key as given but filled under its upper-case form. For a
-				// lower-case key whose upper-case entry exists, the new plan is not stored and dies with `plan`:
-				// callers pass upper-case keys.
-				m_Cache.insert(std::make_pair(countryKey, plan));
-				return plan.get();
+				// lower-case key whose upper-case entry exists, the new plan is not stored and dies with `plan`;
+				// the stored one is lent instead, since a country code written in lower case in the dialing
+				// rules reaches this point on every conversion.
+				return m_Cache.insert(std::make_pair(countryKey, plan)).first->second.get();
 			}
 		}
 	}
