@@ -44,10 +44,10 @@ public:
 	static std::string SPECIFIC_FORMAT_DEFAULT_FILE;
 
 	/// Longest country number; extractCountryNumber deliberately tries one character more.
-	static const int MAX_COUNTRY_NUMBER_LENGTH = 3;
+	static constexpr int MAX_COUNTRY_NUMBER_LENGTH = 3;
 
 	/// Capacity reserved for built numbers and the scan bound of makeDialableNumber.
-	static const int MAX_PHONE_NUMBER_LENGTH = 30;
+	static constexpr int MAX_PHONE_NUMBER_LENGTH = 30;
 
 	ZelNumberingConfig();
 

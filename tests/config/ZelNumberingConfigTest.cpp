@@ -196,6 +196,13 @@ TEST_F(ZelNumberingConfigTest, ExtractCountryNumberTakesTheShortestKnownPrefixUp
 		EXPECT_EQ(expected, config.extractCountryNumber(number)) << number;
 }
 
+TEST_F(ZelNumberingConfigTest, LengthLimitsAreUsableByReference)
+{
+	// gtest binds both sides to references: a limit declared but never defined would not link.
+	EXPECT_EQ(3, ZelNumberingConfig::MAX_COUNTRY_NUMBER_LENGTH);
+	EXPECT_EQ(30, ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+}
+
 TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
 {
 	writeFile("dialingrules.properties", DIALING_RULES);
