@@ -17,8 +17,6 @@ public:
 	/// A new plan (reference count 1, owned by the caller) for the calling code, compared exactly: "49" gives
 	/// a ZelCNP_49. Null for a calling code without a plan, "" included.
 	static ZelCNP* CreateInstance(std::string countryNumber);
-
-	ZelCNPFactory() = delete;
 };
 
 } // namespace numbering
