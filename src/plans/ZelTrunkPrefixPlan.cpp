@@ -14,6 +14,9 @@ const std::string TRUNK_PREFIX = "0";
 /// Shortest number a plan reads, and shortest national number without its trunk prefix.
 const std::string::size_type MIN_DIGITS = 3;
 
+/// Length of the "(" and ") " around an area code.
+const std::string::size_type AREA_FRAME_LENGTH = 3;
+
 bool beginsWithTrunkPrefix(const std::string& s)
 {
 	return !s.empty() && s[0] == TRUNK_PREFIX[0];
@@ -82,7 +85,10 @@ bool ZelTrunkPrefixPlan::isLocal(const std::string&, const std::string& w)
 
 std::string ZelTrunkPrefixPlan::areaForm(const std::string& area, const std::string& sub) const
 {
-	return m_CountryHead + "(" + area + ") " + sub;
+	std::string form;
+	form.reserve(m_CountryHead.size() + area.size() + sub.size() + AREA_FRAME_LENGTH);
+	form.append(m_CountryHead).append("(").append(area).append(") ").append(sub);
+	return form;
 }
 
 std::string ZelTrunkPrefixPlan::zeroForm(const std::string& digits) const

@@ -8,7 +8,7 @@
 #include "Poco/String.h"
 
 #include <algorithm>
-#include <memory>
+#include <optional>
 #include <stdexcept>
 
 namespace numbering {
@@ -69,7 +69,7 @@ public:
 		}
 		if (ZelRulesSupport::isCanonical(m_Working))
 		{
-			m_Working = m_Rules.formatCanonicalNumber(m_Working, pattern);
+			m_Working = m_Rules.formatCanonicalNumber(std::move(m_Working), pattern);
 		}
 		return m_Working;
 	}
@@ -87,8 +87,8 @@ private:
 
 	void useTemporaryItem(const std::string& countryCode)
 	{
-		m_Temporary = std::make_unique<ZelDialRulesItem>(countryCode, "", 0, "", 0, "");
-		m_WorkItem = m_Temporary.get();
+		m_Temporary.emplace(countryCode, "", 0, "", 0, "");
+		m_WorkItem = &*m_Temporary;
 	}
 
 	/// A "+" number: its country's long-distance form, or nothing when the country number is unknown.
@@ -155,6 +155,7 @@ private:
 	bool collectDialled()
 	{
 		const std::string::size_type end = std::min(m_Validated.find('|'), m_Validated.size());
+		m_Working.reserve(end);
 		bool serviceCode = false;
 		for (std::string::size_type i = 0; i < end; ++i)
 		{
@@ -305,7 +306,7 @@ private:
 		{
 			debug("Source number to be altered : '" + m_Working + "'");
 		}
-		m_Working = cnp->qap_Country_MakeCanonicalNumber(m_Working, m_WorkItem);
+		m_Working = cnp->qap_Country_MakeCanonicalNumber(std::move(m_Working), m_WorkItem);
 	}
 
 	ZelNumberingRules& m_Rules;
@@ -313,7 +314,7 @@ private:
 	Logger* m_Logger;
 	ZelDialRulesItem* m_Item;
 	ZelDialRulesItem* m_WorkItem;
-	std::unique_ptr<ZelDialRulesItem> m_Temporary;
+	std::optional<ZelDialRulesItem> m_Temporary;
 	std::string m_Validated;
 	std::string m_AreaOrNatPrefix;
 	std::string m_Working;
@@ -343,7 +344,7 @@ std::string ZelNumberingRules::makeCanonicalNumber(
 		{
 			logger->debug("MakeCanonicalNumber with : " + number);
 		}
-		number = ZelRulesSupport::trimNumber(number);
+		ZelRulesSupport::trimNumber(number);
 		if (withExtPrefix)
 		{
 			// A site without external prefix gives nothing here, even for numbers that would need none.

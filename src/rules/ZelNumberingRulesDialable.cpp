@@ -222,7 +222,7 @@ std::string ZelNumberingRules::makePhoneNumber(ZelDialRulesItem* item, std::stri
 		{
 			logger->debug("makePhoneNumber with : " + number);
 		}
-		number = ZelRulesSupport::trimNumber(number);
+		ZelRulesSupport::trimNumber(number);
 		return dialWithExternalPrefix(*this, logger, item, number, true);
 	}
 	catch (...)

@@ -8,9 +8,19 @@
 
 namespace numbering {
 
+namespace {
+
+/// Characters that the layout "+C (A) rest" may add to a trimmed number.
+const std::string::size_type VALID_LAYOUT_EXTRA = 4;
+
+} // namespace
+
 std::string ZelNumberingRules::validNumber(std::string number)
 {
-	std::string result = Poco::trim(number);
+	const bool traces = Logger::m_Traces;
+	// The argument is a copy already: it becomes the result unless the trace line still has to quote it.
+	std::string result = traces ? number : std::move(number);
+	Poco::trimInPlace(result);
 	if (result.size() >= 2 && result[0] == '+')
 	{
 		const std::string::size_type end = result.size();
@@ -18,12 +28,14 @@ std::string ZelNumberingRules::validNumber(std::string number)
 		const std::string::size_type areaBegin = ZelRulesSupport::skipNonDigits(result, countryEnd, end);
 		const std::string::size_type areaEnd = ZelRulesSupport::skipDigits(result, areaBegin, end);
 		const std::string::size_type restBegin = ZelRulesSupport::skipNonDigits(result, areaEnd, end);
-		std::string built = result.substr(0, countryEnd);
+		std::string built;
+		built.reserve(end + VALID_LAYOUT_EXTRA);
+		built.append(result, 0, countryEnd);
 		// Without digits after the area run there is no subscriber part to set the area apart from.
 		if (areaBegin < end && restBegin < end)
 		{
-			built += " (" + result.substr(areaBegin, areaEnd - areaBegin) + ") ";
-			if (Logger::m_Traces)
+			built.append(" (").append(result, areaBegin, areaEnd - areaBegin).append(") ");
+			if (traces)
 			{
 				logger->debug("ValidNumber CountryCode + AreaCode : " + built);
 			}
@@ -37,11 +49,11 @@ std::string ZelNumberingRules::validNumber(std::string number)
 		}
 		else if (areaBegin < end)
 		{
-			built += " " + result.substr(areaBegin, areaEnd - areaBegin);
+			built.append(" ").append(result, areaBegin, areaEnd - areaBegin);
 		}
 		result = std::move(built);
 	}
-	if (Logger::m_Traces)
+	if (traces)
 	{
 		logger->debug("validNumber before : " + number + ", after : " + result);
 	}

@@ -6,6 +6,7 @@
 
 #include "dialable/ZelDialableManager.h"
 
+#include "Poco/Ascii.h"
 #include "Poco/Exception.h"
 #include "Poco/String.h"
 
@@ -13,6 +14,20 @@
 #include <stdexcept>
 
 namespace numbering {
+
+namespace {
+
+/// Index of the first character from from on that Poco::trim would not remove, or the size of text.
+std::string::size_type skipSpaces(const std::string& text, std::string::size_type from)
+{
+	while (from < text.size() && Poco::Ascii::isSpace(text[from]))
+	{
+		++from;
+	}
+	return from;
+}
+
+} // namespace
 
 bool ZelRulesSupport::isCanonical(const std::string& number)
 {
@@ -47,6 +62,7 @@ std::string::size_type ZelRulesSupport::skipNonDigits(
 std::string ZelRulesSupport::digitsOf(const std::string& text, std::string::size_type from, std::string::size_type end)
 {
 	std::string digits;
+	digits.reserve(end > from ? end - from : 0);
 	for (; from < end; ++from)
 	{
 		if (isDigit(text[from]))
@@ -62,14 +78,13 @@ bool ZelRulesSupport::isMarked(const std::string& number)
 	return number.find("***") != std::string::npos;
 }
 
-std::string ZelRulesSupport::trimNumber(const std::string& number)
+void ZelRulesSupport::trimNumber(std::string& number)
 {
-	std::string trimmed = Poco::trim(number);
-	if (isCanonical(trimmed))
+	Poco::trimInPlace(number);
+	if (isCanonical(number))
 	{
-		return "+" + Poco::trim(trimmed.substr(1));
+		number.erase(1, skipSpaces(number, 1) - 1);
 	}
-	return trimmed;
 }
 
 void ZelRulesSupport::checkArguments(ZelDialRulesItem* item, const std::string& number)

@@ -38,9 +38,9 @@ public:
 	/// True when number holds the marker "***", which the conversions hand back untouched.
 	static bool isMarked(const std::string& number);
 
-	/// The number trimmed at both ends and, when it begins with "+", also right after the "+":
-	/// " + 33 1 " gives "+33 1".
-	static std::string trimNumber(const std::string& number);
+	/// Trims number in place at both ends and, when it begins with "+", also right after the "+":
+	/// " + 33 1 " becomes "+33 1".
+	static void trimNumber(std::string& number);
 
 	/// Throws std::invalid_argument for a null site or an empty number, with the texts the error lines quote.
 	static void checkArguments(ZelDialRulesItem* item, const std::string& number);
