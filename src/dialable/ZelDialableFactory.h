@@ -17,8 +17,6 @@ public:
 	/// A new maker for countryNumber ("57"), reference count 1, owned by the caller. Never null: an unknown or
 	/// empty country number gets the generic ZelDialable.
 	static ZelDialable* CreateInstance(std::string countryNumber);
-
-	ZelDialableFactory() = delete;
 };
 
 } // namespace numbering
