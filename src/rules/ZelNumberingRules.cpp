@@ -91,20 +91,25 @@ std::string ZelNumberingRules::getCountryCodeFromNumber(std::string countryNumbe
 
 std::string ZelNumberingRules::checkPhoneNumber(std::string number)
 {
-	std::string result;
-	for (char c : number)
+	const bool traces = Logger::m_Traces;
+	// The kept characters are packed to the front of the argument's own copy, unless the trace quotes it.
+	std::string result = traces ? number : std::move(number);
+	std::string::size_type kept = 0;
+	for (std::string::size_type i = 0; i < result.size(); ++i)
 	{
+		const char c = result[i];
 		if (Poco::Ascii::isDigit(c) || isIn(TELEPHONENUMBER_SPECIAL_CHARACTER, c))
 		{
-			result += c;
+			result[kept++] = c;
 		}
 		else if (!isIn(TELEPHONENUMBER_FORMAT_CHARACTER, c))
 		{
-			result.clear();
+			kept = 0;
 			break;
 		}
 	}
-	if (Logger::m_Traces) logger->debug("checkPhoneNumber('" + number + "') returns '" + result + "'");
+	result.resize(kept);
+	if (traces) logger->debug("checkPhoneNumber('" + number + "') returns '" + result + "'");
 	return result;
 }
 

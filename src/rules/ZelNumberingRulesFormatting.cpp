@@ -35,10 +35,13 @@ bool canLayOut(Logger* logger, const std::string& canonical)
 /// The characters from index from up to stop; running off the end raises std::out_of_range.
 std::string collectUntil(const std::string& canonical, std::string::size_type from, char stop, std::size_t capacity)
 {
-	std::string part;
-	part.reserve(capacity);
-	for (std::string::size_type i = from; canonical.at(i) != stop; ++i)
-		part += canonical[i];
+	std::string::size_type end = from;
+	while (end < canonical.size() && canonical[end] != stop)
+		++end;
+	// Without stop the scan runs off the end: the same exception, with the same text, as reading there.
+	if (end >= canonical.size()) static_cast<void>(canonical.at(end));
+	std::string part(canonical.data() + from, end - from);
+	if (part.capacity() < capacity) part.reserve(capacity);
 	return part;
 }
 
@@ -143,7 +146,9 @@ std::string ZelNumberingRules::formatCanonicalNumber(std::string canonicalNumber
 		if (pattern.empty())
 		{
 			const std::string::size_type open = canonicalNumber.find('(');
-			pattern = config->getDefaultPattern(Poco::trim(canonicalNumber.substr(1, open - 1)));
+			std::string country = canonicalNumber.substr(1, open - 1);
+			Poco::trimInPlace(country);
+			pattern = config->getDefaultPattern(std::move(country));
 			if (pattern.empty()) return canonicalNumber;
 		}
 		return layOut(config, canonicalNumber, pattern);

@@ -17,6 +17,9 @@ namespace numbering {
 
 namespace {
 
+/// The marker of numbers that the conversions hand back untouched.
+const std::string MARKER = "***";
+
 /// Index of the first character from from on that Poco::trim would not remove, or the size of text.
 std::string::size_type skipSpaces(const std::string& text, std::string::size_type from)
 {
@@ -75,7 +78,14 @@ std::string ZelRulesSupport::digitsOf(const std::string& text, std::string::size
 
 bool ZelRulesSupport::isMarked(const std::string& number)
 {
-	return number.find("***") != std::string::npos;
+	for (std::string::size_type star = number.find('*'); star != std::string::npos; star = number.find('*', star + 1))
+	{
+		if (number.compare(star, MARKER.size(), MARKER) == 0)
+		{
+			return true;
+		}
+	}
+	return false;
 }
 
 void ZelRulesSupport::trimNumber(std::string& number)
