@@ -15,6 +15,9 @@ class Numbering_API TypesafeEnum
 public:
 	virtual ~TypesafeEnum();
 
+	/// The id the next enumerator will take; 6 once the five origins exist.
+	static int next_id;
+
 	/// The enumerator's id.
 	int getId() const;
 
@@ -30,8 +33,6 @@ protected:
 	TypesafeEnum();
 
 private:
-	static int next_id;
-
 	int m_Id;
 };
 
