@@ -37,11 +37,6 @@ bool ZelRulesSupport::isCanonical(const std::string& number)
 	return !number.empty() && number[0] == '+';
 }
 
-bool ZelRulesSupport::isDigit(char c)
-{
-	return c >= '0' && c <= '9';
-}
-
 std::string::size_type ZelRulesSupport::skipDigits(
 	const std::string& text, std::string::size_type from, std::string::size_type end)
 {
@@ -64,15 +59,17 @@ std::string::size_type ZelRulesSupport::skipNonDigits(
 
 std::string ZelRulesSupport::digitsOf(const std::string& text, std::string::size_type from, std::string::size_type end)
 {
-	std::string digits;
-	digits.reserve(end > from ? end - from : 0);
+	// Sized for the whole range, filled from the front, and cut to the digits found: one buffer, no growth.
+	std::string digits(end > from ? end - from : 0, '0');
+	std::string::size_type kept = 0;
 	for (; from < end; ++from)
 	{
 		if (isDigit(text[from]))
 		{
-			digits += text[from];
+			digits[kept++] = text[from];
 		}
 	}
+	digits.resize(kept);
 	return digits;
 }
 

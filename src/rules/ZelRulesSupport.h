@@ -22,7 +22,10 @@ public:
 	static bool isCanonical(const std::string& number);
 
 	/// True for the decimal digits 0 to 9 only, whatever the signedness of char.
-	static bool isDigit(char c);
+	static bool isDigit(char c)
+	{
+		return c >= '0' && c <= '9';
+	}
 
 	/// Index of the first character in [from, end) that is not a digit, or end.
 	static std::string::size_type skipDigits(
