@@ -79,18 +79,25 @@ void ZelCharsTreeElement::insert(ZelCharsTreeElement* e)
 
 void ZelCharsTreeElement::insert(std::string s)
 {
-	if (s.empty()) return;
+	// The tree gains what merging a fresh chain for s would give it, without building and freeing the part of
+	// the chain that already exists: new nodes only below the existing path, the last one marked. A string
+	// that is already a path changes nothing, as a merge leaves the existing nodes' marks as they are.
+	ZelCharsTreeElement* node = this;
+	std::string::size_type depth = 0;
+	for (ZelCharsTreeElement* next; depth < s.size() && (next = node->get(s[depth])) != nullptr; ++depth)
+		node = next;
+	if (depth == s.size()) return;
 	ZelCharsTreeElement* chain = nullptr;
-	for (auto c = s.rbegin(); c != s.rend(); ++c)
+	for (std::string::size_type i = s.size(); i-- > depth;)
 	{
-		auto* node = new ZelCharsTreeElement(*c);
+		auto* link = new ZelCharsTreeElement(s[i]);
 		if (chain == nullptr)
-			node->setAreaCode(true);
+			link->setAreaCode(true);
 		else
-			node->insert(chain);
-		chain = node;
+			link->m_Elements[chain->getCharacter()] = chain;
+		chain = link;
 	}
-	insert(chain);
+	node->m_Elements[chain->getCharacter()] = chain;
 }
 
 std::string ZelCharsTreeElement::ToString()
