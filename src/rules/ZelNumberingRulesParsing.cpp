@@ -13,6 +13,64 @@ namespace {
 /// Characters that the layout "+C (A) rest" may add to a trimmed number.
 const std::string::size_type VALID_LAYOUT_EXTRA = 4;
 
+/// Where the runs of a "+" number lie: the country digits end at countryEnd, the area digits are
+/// [areaBegin, areaEnd), the rest begins at restBegin; an index equal to end means the run is missing.
+struct Runs
+{
+	explicit Runs(const std::string& text):
+		end(text.size()),
+		countryEnd(ZelRulesSupport::skipDigits(text, 1, end)),
+		areaBegin(ZelRulesSupport::skipNonDigits(text, countryEnd, end)),
+		areaEnd(ZelRulesSupport::skipDigits(text, areaBegin, end)),
+		restBegin(ZelRulesSupport::skipNonDigits(text, areaEnd, end))
+	{
+	}
+
+	/// Without digits after the area run there is no subscriber part to set the area apart from.
+	bool hasRest() const
+	{
+		return areaBegin < end && restBegin < end;
+	}
+
+	std::string::size_type end;
+	std::string::size_type countryEnd;
+	std::string::size_type areaBegin;
+	std::string::size_type areaEnd;
+	std::string::size_type restBegin;
+};
+
+/// True when text already reads "+C (A) rest" without a blank in rest: laying it out would give it back.
+bool isLaidOut(const std::string& text, const Runs& runs)
+{
+	return runs.areaBegin == runs.countryEnd + 2 && text.compare(runs.countryEnd, 2, " (") == 0 &&
+		   runs.restBegin == runs.areaEnd + 2 && text.compare(runs.areaEnd, 2, ") ") == 0 &&
+		   text.find(' ', runs.restBegin) == std::string::npos;
+}
+
+/// "+C (A) rest" with the blanks of rest dropped, "+C A" without a rest, "+C" without an area.
+std::string layOut(const std::string& text, const Runs& runs)
+{
+	std::string built;
+	built.reserve(runs.end + VALID_LAYOUT_EXTRA);
+	built.append(text, 0, runs.countryEnd);
+	if (runs.hasRest())
+	{
+		built.append(" (").append(text, runs.areaBegin, runs.areaEnd - runs.areaBegin).append(") ");
+		for (std::string::size_type i = runs.restBegin; i < runs.end; ++i)
+		{
+			if (text[i] != ' ')
+			{
+				built += text[i];
+			}
+		}
+	}
+	else if (runs.areaBegin < runs.end)
+	{
+		built.append(" ").append(text, runs.areaBegin, runs.areaEnd - runs.areaBegin);
+	}
+	return built;
+}
+
 } // namespace
 
 std::string ZelNumberingRules::validNumber(std::string number)
@@ -23,35 +81,17 @@ std::string ZelNumberingRules::validNumber(std::string number)
 	Poco::trimInPlace(result);
 	if (result.size() >= 2 && result[0] == '+')
 	{
-		const std::string::size_type end = result.size();
-		const std::string::size_type countryEnd = ZelRulesSupport::skipDigits(result, 1, end);
-		const std::string::size_type areaBegin = ZelRulesSupport::skipNonDigits(result, countryEnd, end);
-		const std::string::size_type areaEnd = ZelRulesSupport::skipDigits(result, areaBegin, end);
-		const std::string::size_type restBegin = ZelRulesSupport::skipNonDigits(result, areaEnd, end);
-		std::string built;
-		built.reserve(end + VALID_LAYOUT_EXTRA);
-		built.append(result, 0, countryEnd);
-		// Without digits after the area run there is no subscriber part to set the area apart from.
-		if (areaBegin < end && restBegin < end)
+		const Runs runs(result);
+		if (runs.hasRest() && traces)
 		{
-			built.append(" (").append(result, areaBegin, areaEnd - areaBegin).append(") ");
-			if (traces)
-			{
-				logger->debug("ValidNumber CountryCode + AreaCode : " + built);
-			}
-			for (std::string::size_type i = restBegin; i < end; ++i)
-			{
-				if (result[i] != ' ')
-				{
-					built += result[i];
-				}
-			}
+			logger->debug("ValidNumber CountryCode + AreaCode : " + result.substr(0, runs.countryEnd) + " (" +
+						  result.substr(runs.areaBegin, runs.areaEnd - runs.areaBegin) + ") ");
 		}
-		else if (areaBegin < end)
+		// A number already in the layout, as every canonical number is, is kept without being rebuilt.
+		if (!runs.hasRest() || !isLaidOut(result, runs))
 		{
-			built.append(" ").append(result, areaBegin, areaEnd - areaBegin);
+			result = layOut(result, runs);
 		}
-		result = std::move(built);
 	}
 	if (traces)
 	{
