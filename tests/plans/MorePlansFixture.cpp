@@ -74,12 +74,12 @@ void MorePlansFixture::configure(Setting setting)
 		writeSampleTable(entry.first, setting != Setting::NoTranslate);
 }
 
-std::unique_ptr<ZelDialRulesItem> MorePlansFixture::makeSite(const SiteSpec& site)
+std::unique_ptr<ZelDialRulesItem> MorePlansFixture::makeSite(const SiteSetup& site)
 {
 	return std::make_unique<ZelDialRulesItem>(site.country, site.ext, 5, site.areas, 0, "");
 }
 
-std::string MorePlansFixture::siteName(const SiteSpec& site)
+std::string MorePlansFixture::siteName(const SiteSetup& site)
 {
 	return std::string(site.country) + "/" + site.areas + " ext " + site.ext;
 }

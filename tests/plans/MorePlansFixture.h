@@ -19,7 +19,7 @@ namespace numbering {
 namespace test {
 
 /// A site as the worked examples write it: country, area-code list, external prefix (local length 5).
-struct SiteSpec
+struct SiteSetup
 {
 	const char* country;
 	const char* areas;
@@ -53,17 +53,17 @@ protected:
 	void configure(Setting setting);
 
 	/// A site record; the dialing rules must be written first.
-	static std::unique_ptr<ZelDialRulesItem> makeSite(const SiteSpec& site);
+	static std::unique_ptr<ZelDialRulesItem> makeSite(const SiteSetup& site);
 
 	/// "NL/20 ext 0".
-	static std::string siteName(const SiteSpec& site);
+	static std::string siteName(const SiteSetup& site);
 };
 
 /// A worked example at plan level: the number handed to the plan at a site, and the plan's result.
 struct PlanRow
 {
 	const char* name;
-	SiteSpec site;
+	SiteSetup site;
 	const char* number;
 	const char* canonical;
 	Setting setting = Setting::Sample;

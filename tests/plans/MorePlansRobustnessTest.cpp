@@ -18,7 +18,7 @@ const std::string UNREADABLE[] = {"", "0", "00", "000", "0000", std::string(3, '
 /// Long inputs that some open plans read as local or national numbers: they must only be read safely.
 const std::string LONG[] = {std::string(1000, '9'), "0" + std::string(1000, '1'), "9" + std::string(17, '0')};
 
-const SiteSpec SITES[] = {{"FR", "1", "0"}, {"FR", "", ""}, {"FR", "1234567890123", "00000"}, {"FR", "22", "9"}};
+const SiteSetup SITES[] = {{"FR", "1", "0"}, {"FR", "", ""}, {"FR", "1234567890123", "00000"}, {"FR", "22", "9"}};
 
 class MorePlansRobustnessTest: public MorePlansFixture, public ::testing::WithParamInterface<const char*>
 {
@@ -28,13 +28,13 @@ TEST_P(MorePlansRobustnessTest, ReadsOddNumbersSafely)
 {
 	configure(Setting::Sample);
 	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(GetParam()));
-	for (const SiteSpec& spec : SITES)
+	for (const SiteSetup& setup : SITES)
 	{
-		const std::unique_ptr<ZelDialRulesItem> site = makeSite(spec);
+		const std::unique_ptr<ZelDialRulesItem> site = makeSite(setup);
 		for (const std::string& number : UNREADABLE)
-			EXPECT_EQ(number, plan->qap_Country_MakeCanonicalNumber(number, site.get())) << siteName(spec);
+			EXPECT_EQ(number, plan->qap_Country_MakeCanonicalNumber(number, site.get())) << siteName(setup);
 		for (const std::string& number : LONG)
-			EXPECT_NO_THROW(plan->qap_Country_MakeCanonicalNumber(number, site.get())) << siteName(spec);
+			EXPECT_NO_THROW(plan->qap_Country_MakeCanonicalNumber(number, site.get())) << siteName(setup);
 	}
 }
 

@@ -12,20 +12,20 @@ namespace numbering {
 namespace test {
 namespace {
 
-const SiteSpec NL20{"NL", "20", "0"};
-const SiteSpec NL{"NL", "", ""};
-const SiteSpec BE2{"BE", "2", "0"};
-const SiteSpec BE{"BE", "", ""};
-const SiteSpec AT1{"AT", "1", "0"};
-const SiteSpec AT1EXT9{"AT", "1", "9"};
-const SiteSpec AT{"AT", "", ""};
-const SiteSpec GB20{"GB", "20", "9"};
-const SiteSpec GB{"GB", "", ""};
-const SiteSpec IE1{"IE", "1", "9"};
-const SiteSpec IE1EXT0{"IE", "1", "0"};
-const SiteSpec IE{"IE", "", ""};
-const SiteSpec AU2{"AU", "2", "0"};
-const SiteSpec AU{"AU", "", ""};
+const SiteSetup NL20{"NL", "20", "0"};
+const SiteSetup NL{"NL", "", ""};
+const SiteSetup BE2{"BE", "2", "0"};
+const SiteSetup BE{"BE", "", ""};
+const SiteSetup AT1{"AT", "1", "0"};
+const SiteSetup AT1EXT9{"AT", "1", "9"};
+const SiteSetup AT{"AT", "", ""};
+const SiteSetup GB20{"GB", "20", "9"};
+const SiteSetup GB{"GB", "", ""};
+const SiteSetup IE1{"IE", "1", "9"};
+const SiteSetup IE1EXT0{"IE", "1", "0"};
+const SiteSetup IE{"IE", "", ""};
+const SiteSetup AU2{"AU", "2", "0"};
+const SiteSetup AU{"AU", "", ""};
 
 // Sites without external prefix or area code stand for the record of a "+" or international number.
 const PlanRow NETHERLANDS[] = {

@@ -8,9 +8,9 @@ namespace numbering {
 namespace test {
 namespace {
 
-const SiteSpec MX55{"MX", "55", "9"};
-const SiteSpec MX222{"MX", "222", "9"};
-const SiteSpec MX{"MX", "", ""};
+const SiteSetup MX55{"MX", "55", "9"};
+const SiteSetup MX222{"MX", "222", "9"};
+const SiteSetup MX{"MX", "", ""};
 
 // Dialling before August 2019 unless the row says Mexico2019 (ten-digit dialling).
 const PlanRow MEXICO[] = {

@@ -12,9 +12,9 @@ namespace numbering {
 namespace test {
 namespace {
 
-const SiteSpec AR11{"AR", "11", "0"};
-const SiteSpec AR351{"AR", "351", "0"};
-const SiteSpec AR{"AR", "", ""};
+const SiteSetup AR11{"AR", "11", "0"};
+const SiteSetup AR351{"AR", "351", "0"};
+const SiteSetup AR{"AR", "", ""};
 
 const PlanRow ARGENTINA[] = {
 	{"BuenosAires", AR11, "01143211234", "+54 (11) 43211234"},
@@ -92,7 +92,7 @@ TEST_P(ZelCNP54StripTest, SplitsAndTracesTheNumber)
 {
 	const StripRow& row = GetParam();
 	configure(Setting::Sample);
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSpec{"AR", row.siteArea, "0"});
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
 	Poco::AutoPtr<ZelCNP_54> plan(new ZelCNP_54());
 	Logger::m_Traces = true;
 	LogCapture::clear();

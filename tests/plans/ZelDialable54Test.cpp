@@ -55,7 +55,7 @@ protected:
 TEST_P(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
 {
 	const DialRow& row = GetParam();
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSpec{"AR", row.siteArea, "0"});
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
 	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("AR");
 	std::string area = row.areaNatPfx;
 	std::string dest = row.dest;
@@ -75,7 +75,7 @@ class ZelDialable54FallbackTest: public MorePlansFixture
 TEST_F(ZelDialable54FallbackTest, DialsAreaAndNumberWithoutArgentinePlan)
 {
 	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSpec{"FR", "1", "0"});
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"FR", "1", "0"});
 	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("FR");
 	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
 	std::string area = "911";

@@ -19,12 +19,12 @@ namespace {
 struct TripRow
 {
 	const char* name;
-	SiteSpec at;
+	SiteSetup at;
 	const char* input;
 	const char* canonical;
-	SiteSpec home;
+	SiteSetup home;
 	const char* dialledAtHome;
-	SiteSpec other;
+	SiteSetup other;
 	const char* dialledAtOther;
 	const char* dialledFromFrance;
 	Setting setting = Setting::Sample;
@@ -35,26 +35,26 @@ void PrintTo(const TripRow& row, std::ostream* os)
 	*os << row.name;
 }
 
-const SiteSpec FR1{"FR", "1", "0"};
-const SiteSpec NL20{"NL", "20", "0"};
-const SiteSpec NL10{"NL", "10", "0"};
-const SiteSpec BE2{"BE", "2", "0"};
-const SiteSpec BE4{"BE", "4", "0"};
-const SiteSpec AT1{"AT", "1", "0"};
-const SiteSpec AT1EXT9{"AT", "1", "9"};
-const SiteSpec AT316{"AT", "316", "0"};
-const SiteSpec GB20{"GB", "20", "9"};
-const SiteSpec GB121{"GB", "121", "9"};
-const SiteSpec IE1{"IE", "1", "9"};
-const SiteSpec IE1EXT0{"IE", "1", "0"};
-const SiteSpec IE21{"IE", "21", "9"};
-const SiteSpec AU2{"AU", "2", "0"};
-const SiteSpec AU3{"AU", "3", "0"};
-const SiteSpec AR11{"AR", "11", "0"};
-const SiteSpec AR351{"AR", "351", "0"};
-const SiteSpec MX55{"MX", "55", "9"};
-const SiteSpec MX33{"MX", "33", "9"};
-const SiteSpec MX222{"MX", "222", "9"};
+const SiteSetup FR1{"FR", "1", "0"};
+const SiteSetup NL20{"NL", "20", "0"};
+const SiteSetup NL10{"NL", "10", "0"};
+const SiteSetup BE2{"BE", "2", "0"};
+const SiteSetup BE4{"BE", "4", "0"};
+const SiteSetup AT1{"AT", "1", "0"};
+const SiteSetup AT1EXT9{"AT", "1", "9"};
+const SiteSetup AT316{"AT", "316", "0"};
+const SiteSetup GB20{"GB", "20", "9"};
+const SiteSetup GB121{"GB", "121", "9"};
+const SiteSetup IE1{"IE", "1", "9"};
+const SiteSetup IE1EXT0{"IE", "1", "0"};
+const SiteSetup IE21{"IE", "21", "9"};
+const SiteSetup AU2{"AU", "2", "0"};
+const SiteSetup AU3{"AU", "3", "0"};
+const SiteSetup AR11{"AR", "11", "0"};
+const SiteSetup AR351{"AR", "351", "0"};
+const SiteSetup MX55{"MX", "55", "9"};
+const SiteSetup MX33{"MX", "33", "9"};
+const SiteSetup MX222{"MX", "222", "9"};
 
 const TripRow NETHERLANDS[] = {
 	{"TwoDigitArea", NL20, "0201234567", "+31 (20) 1234567", NL20, "1234567", NL10, "0201234567", "0031201234567"},
@@ -273,9 +273,9 @@ const TripRow MEXICO[] = {
 class MorePlansEndToEndTest: public MorePlansFixture, public ::testing::WithParamInterface<TripRow>
 {
 protected:
-	std::string dial(const SiteSpec& spec, const std::string& canonical)
+	std::string dial(const SiteSetup& setup, const std::string& canonical)
 	{
-		return ZelNumberingRules::getInstance()->makeDialableNumber(makeSite(spec).get(), canonical);
+		return ZelNumberingRules::getInstance()->makeDialableNumber(makeSite(setup).get(), canonical);
 	}
 };
 
@@ -310,7 +310,7 @@ INSTANTIATE_TEST_SUITE_P(Mexico, MorePlansEndToEndTest, ::testing::ValuesIn(MEXI
 struct ClidRow
 {
 	const char* name;
-	SiteSpec site;
+	SiteSetup site;
 	const char* received;
 	ZelEnumOrigin* origin;
 	const char* number;

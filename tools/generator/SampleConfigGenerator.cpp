@@ -46,7 +46,7 @@ const std::vector<std::pair<std::string, std::string>> MASKS = {
 
 /// One area-code table: the country, how deep its codes go, the codes the plan also keeps as area codes
 /// (mobile and service codes, written like area codes in these countries) and the beginnings no code may have.
-struct TableSpec
+struct TableSource
 {
 	std::string callingCode;
 	std::string region;
@@ -71,7 +71,7 @@ std::vector<std::string> joined(std::vector<std::vector<std::string>> parts)
 	return all;
 }
 
-std::vector<TableSpec> tableSpecs()
+std::vector<TableSource> tableSources()
 {
 	// Austria: mobile networks 650 to 699 without the geographic 654x, 656x, 658x and Salzburg's 662, then the
 	// location-independent, freephone, shared-cost, premium and corporate codes.
@@ -156,17 +156,17 @@ void SampleConfigGenerator::writeActivation(std::ostream& report)
 void SampleConfigGenerator::writeAreaCodeTables(std::ostream& report)
 {
 	const AreaCodeWalker walker(m_Util, m_Geocoder);
-	for (const TableSpec& spec : tableSpecs())
+	for (const TableSource& table : tableSources())
 	{
-		std::set<std::string> codes = walker.geographicCodes(spec.region, spec.longestCode);
+		std::set<std::string> codes = walker.geographicCodes(table.region, table.longestCode);
 		const std::size_t geographic = codes.size();
-		codes.insert(spec.extraCodes.begin(), spec.extraCodes.end());
+		codes.insert(table.extraCodes.begin(), table.extraCodes.end());
 		for (auto it = codes.begin(); it != codes.end();)
-			it = beginsWithAny(*it, spec.excludedBeginnings) ? codes.erase(it) : std::next(it);
-		const std::string name = "r7731cnp_" + spec.callingCode + "_default.properties";
+			it = beginsWithAny(*it, table.excludedBeginnings) ? codes.erase(it) : std::next(it);
+		const std::string name = "r7731cnp_" + table.callingCode + "_default.properties";
 		// Ascending order: a code always comes before the longer codes that extend it.
 		PropertyFileWriter file(path(name),
-			ORIGIN + "\nArea codes of " + m_Names.name(spec.region) + " without trunk prefix, in ascending order.");
+			ORIGIN + "\nArea codes of " + m_Names.name(table.region) + " without trunk prefix, in ascending order.");
 		file.add("Translate", "1");
 		file.addNumbered("AC_", codes);
 		report << name << ": " << codes.size() << " codes (" << geographic << " geographic)\n";

@@ -82,9 +82,9 @@ Row single(const std::string& number, const std::string& result)
 
 } // namespace
 
-const std::vector<Command::Spec>& Command::specs()
+const std::vector<Command::Definition>& Command::definitions()
 {
-	static const std::vector<Spec> all = {
+	static const std::vector<Definition> all = {
 		{"canonical", CANONICAL, {"number", "canonical"},
 			"canonical form, laid out by --pattern or the country's mask"},
 		{"gsm", GSM, {"number", "gsm"}, "compact canonical form, \"+49301234567\""},
@@ -102,41 +102,41 @@ const std::vector<Command::Spec>& Command::specs()
 }
 
 Command::Command(const std::string& name):
-	m_Spec(nullptr)
+	m_Definition(nullptr)
 {
-	for (const Spec& spec : specs())
-		if (name == spec.name) m_Spec = &spec;
-	if (!m_Spec) throw Poco::NotFoundException("unknown command '" + name + "'");
+	for (const Definition& definition : definitions())
+		if (name == definition.name) m_Definition = &definition;
+	if (!m_Definition) throw Poco::NotFoundException("unknown command '" + name + "'");
 }
 
 std::string Command::summary()
 {
 	std::string text;
-	for (const Spec& spec : specs())
-		text += "  " + std::string(spec.name) + std::string(12 - std::string(spec.name).size(), ' ') +
-				spec.description + "\n";
+	for (const Definition& definition : definitions())
+		text += "  " + std::string(definition.name) + std::string(12 - std::string(definition.name).size(), ' ') +
+				definition.description + "\n";
 	return text;
 }
 
 const std::vector<std::string>& Command::columns() const
 {
-	return m_Spec->columns;
+	return m_Definition->columns;
 }
 
 bool Command::takesNumbers() const
 {
-	return m_Spec->kind != COUNTRIES;
+	return m_Definition->kind != COUNTRIES;
 }
 
 bool Command::needsSite() const
 {
-	return m_Spec->kind != COUNTRIES && m_Spec->kind != CHECK;
+	return m_Definition->kind != COUNTRIES && m_Definition->kind != CHECK;
 }
 
 Row Command::convert(
 	ZelNumberingRules& rules, ZelDialRulesItem* site, const std::string& number, const std::string& pattern) const
 {
-	switch (m_Spec->kind)
+	switch (m_Definition->kind)
 	{
 	case CANONICAL:
 		return single(number, rules.makeCanonicalNumber(site, number, pattern));

@@ -58,7 +58,7 @@ private:
 		EXPLAIN
 	};
 
-	struct Spec
+	struct Definition
 	{
 		const char* name;
 		Kind kind;
@@ -66,9 +66,9 @@ private:
 		const char* description;
 	};
 
-	static const std::vector<Spec>& specs();
+	static const std::vector<Definition>& definitions();
 
-	const Spec* m_Spec;
+	const Definition* m_Definition;
 };
 
 } // namespace tool
