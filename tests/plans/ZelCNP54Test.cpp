@@ -12,41 +12,6 @@ namespace numbering {
 namespace test {
 namespace {
 
-const SiteSetup AR11{"AR", "11", "0"};
-const SiteSetup AR351{"AR", "351", "0"};
-const SiteSetup AR{"AR", "", ""};
-
-const PlanRow ARGENTINA[] = {
-	{"BuenosAires", AR11, "01143211234", "+54 (11) 43211234"},
-	{"NationalMobile", AR11, "0111523456789", "+54 (911) 23456789"},
-	{"LocalMobile", AR11, "1523456789", "+54 (911) 23456789"},
-	{"Local", AR11, "43211234", "+54 (11) 43211234"},
-	{"ExtPrefixAndLocal", AR11, "043211234", "+54 (11) 43211234"},
-	{"MobileOfThreeDigitArea", AR11, "0223154234567", "+54 (9223) 4234567"},
-	{"MobileOfFourDigitArea", AR11, "0296615423456", "+54 (92966) 423456"},
-	{"LongerCodeExtendingAnother", AR11, "02202423456", "+54 (2202) 423456"},
-	{"ShorterCodeOfTheSamePath", AR11, "02204123456", "+54 (220) 4123456"},
-	{"MobileOfAnotherArea", AR11, "0351154123456", "+54 (9351) 4123456"},
-	{"Freephone", AR11, "08001234567", "+54 (800) 1234567"},
-	{"UnsplittableKeepsCountry", AR11, "0912345678", "+54 (0) 912345678"},
-	{"LocalMobileOfThreeDigitArea", AR351, "154123456", "+54 (9351) 4123456"},
-	{"InternationalMobile", AR, "0111523456789", "+54 (911) 23456789"},
-	{"InternationalUnsplittable", AR, "99991234567", "99991234567"},
-	{"LocalWithoutTranslation", AR11, "43211234", "43211234", Setting::NoTranslate},
-	{"AreaMissingFromTable", AR11, "02914123456", "+54 (0) 2914123456"},
-};
-
-class ZelCNP54Test: public MorePlanTest
-{
-};
-
-TEST_P(ZelCNP54Test, MakesCanonicalNumber)
-{
-	EXPECT_EQ(GetParam().canonical, canonical("54"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54Test, ::testing::ValuesIn(ARGENTINA), planRowName);
-
 /// A split: the number, the site (null when "area" is ""), the record's text or "" for none, and the debug
 /// lines after "stripNbr('...')".
 struct StripRow
