@@ -29,15 +29,11 @@ void PrintTo(const DialRow& row, std::ostream* os)
 	*os << row.name;
 }
 
+// The worked examples dial the other cases back through the facade; these are the rows only the maker sees.
 const DialRow DIALS[] = {
-	{"MobileOfTheSiteArea", "11", "911", "23456789", "1523456789"},
-	{"MobileOfAnotherArea", "351", "911", "23456789", "0111523456789"},
 	{"FixedOfTheSiteArea", "11", "11", "43211234", "43211234"},
-	{"FixedOfAnotherArea", "351", "11", "43211234", "01143211234"},
 	{"MobileOfThreeDigitArea", "11", "9223", "4234567", "0223154234567"},
 	{"MobileWithoutSiteArea", "", "", "91123456789", "0111523456789"},
-	{"UnsplittableAsItStands", "11", "0", "912345678", "0912345678"},
-	{"CodeMissingFromTable", "11", "0", "2914123456", "02914123456"},
 };
 
 class ZelDialable54Test: public MorePlansFixture, public ::testing::WithParamInterface<DialRow>

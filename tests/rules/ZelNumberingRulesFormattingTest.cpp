@@ -96,14 +96,6 @@ INSTANTIATE_TEST_SUITE_P(Patterns,
 		LayoutCase{"EmptyPatternWithoutMaskUnchanged", "+49 (30) 1234567", "", "+49 (30) 1234567"}),
 	caseName<LayoutCase>);
 
-TEST_F(ZelNumberingRulesFormattingTest, NumberWithoutParenthesesIsOnlyTraced)
-{
-	Logger::m_Traces = true;
-	EXPECT_EQ("+33 123", m_Rules->formatCanonicalNumber("+33 123", "C"));
-	EXPECT_TRUE(LogCapture::contains(std::string("DEBUG ") + LOGGER + "Can't apply pattern to number : '+33 123'"));
-	EXPECT_EQ(std::vector<std::string>(), errorLines());
-}
-
 class ZelNumberingRulesLayoutErrorTest: public ZelNumberingRulesFormattingTest,
 										public ::testing::WithParamInterface<LayoutCase>
 {
@@ -226,17 +218,6 @@ INSTANTIATE_TEST_SUITE_P(Countries,
 		DefaultCase{"EmptyCountryCode", "0201234567", "", "20", ""},
 		DefaultCase{"UnknownCountryCode", "0201234567", "ZZ", "20", ""}),
 	caseName<DefaultCase>);
-
-TEST_F(ZelNumberingRulesFormattingTest, TracesCallsAndResults)
-{
-	Logger::m_Traces = true;
-	m_Rules->generateDefaultCanonicalNumber("0201234567", "GB", "20");
-	m_Rules->formatToGSMCanonicalNumber("+49 (30) 1234567");
-	const std::string debug = std::string("DEBUG ") + LOGGER;
-	EXPECT_TRUE(LogCapture::contains(debug + "generateDefaultCanonicalNumber('0201234567', 'GB', '20')"));
-	EXPECT_TRUE(LogCapture::contains(debug + "generateDefaultCanonicalNumber result : '+44 (20) 1234567'"));
-	EXPECT_TRUE(LogCapture::contains(debug + "formatToGSMCanonicalNumber('+49 (30) 1234567'"));
-}
 
 /// Answers makeCanonicalNumber from a script, so that makeGSMCanonicalNumber is seen on its own.
 class ScriptedRules: public ZelNumberingRules
