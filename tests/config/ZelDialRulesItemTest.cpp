@@ -104,9 +104,6 @@ TEST_F(ZelDialRulesItemTest, ToStringListsEveryField)
 	EXPECT_EQ("CountryCode : 'FR', External Prefix : '0', Local length : 5, AreaCode : '1', m_areaCodesList :  '1' "
 			  "'2', Except length : 3, Except begin : '06'",
 		ZelDialRulesItem("FR", "0", 5, "1,2", 3, "06").ToString());
-	EXPECT_EQ("CountryCode : 'FR', External Prefix : '', Local length : 0, AreaCode : '', m_areaCodesList : , "
-			  "Except length : 0, Except begin : ''",
-		ZelDialRulesItem().ToString());
 }
 
 } // namespace
