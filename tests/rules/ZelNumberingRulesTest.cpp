@@ -94,14 +94,6 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		CheckCase{"HighByteRejected", "12\xe9", ""}),
 	caseName<CheckCase>);
 
-TEST_F(ZelNumberingRulesTest, CheckPhoneNumberTracesItsAnswer)
-{
-	Logger::m_Traces = true;
-	ZelNumberingRules::getInstance()->checkPhoneNumber("01 23");
-	EXPECT_TRUE(
-		LogCapture::contains("DEBUG N9numbering17ZelNumberingRulesE - checkPhoneNumber('01 23') returns '0123'"));
-}
-
 struct PrefixCase
 {
 	const char* name;
