@@ -39,19 +39,6 @@ TEST_F(ZelDialableManagerTest, KeepsOneMakerPerCountryNumberUntilReset)
 	EXPECT_EQ(before, ZelDialable::_count);
 }
 
-TEST_F(ZelDialableManagerTest, TracesLookupsAndBuildsOnlyOnce)
-{
-	Logger::m_Traces = true;
-	ZelDialableManager* manager = ZelDialableManager::getInstance();
-	LogCapture::clear();
-	manager->getDialable("33");
-	manager->getDialable("33");
-	const std::string prefix = "DEBUG N9numbering18ZelDialableManagerE - ";
-	const std::vector<std::string> expected{
-		prefix + "getDialable('33')", prefix + "loadDialableClass('33')", prefix + "getDialable('33')"};
-	EXPECT_EQ(expected, LogCapture::lines());
-}
-
 TEST_F(ZelDialableManagerTest, EmptyCountryNumberGetsNoMaker)
 {
 	Logger::m_Traces = true;

@@ -44,13 +44,6 @@ TEST(ZelClidTest, CountsEveryConstructionAndKeepsCountingAfterRelease)
 	EXPECT_EQ(before + 2, ZelClid::_count);
 }
 
-TEST(ZelClidTest, SingleReleaseOfFreshRecordDestroysIt)
-{
-	bool destroyed = false;
-	(new TrackedClid(destroyed))->release();
-	EXPECT_TRUE(destroyed);
-}
-
 TEST(ZelClidTest, DuplicateKeepsRecordAliveUntilLastRelease)
 {
 	bool destroyed = false;
