@@ -6,6 +6,7 @@
 #include "numbering/number_format_exception.h"
 
 #include "support/LogCapture.h"
+#include "support/ThrowMessage.h"
 #include "trees/ZelCharsTreeElement.h"
 
 #include <gtest/gtest.h>
@@ -18,6 +19,7 @@ using numbering::number_format_exception;
 using numbering::ZelAreaCodeTree;
 using numbering::ZelCharsTreeElement;
 using numbering::test::LogCapture;
+using numbering::test::thrownMessage;
 
 namespace {
 
@@ -74,24 +76,12 @@ TEST_F(ZelAreaCodeTreeTest, RefusesAPathAlreadyPresent)
 TEST_F(ZelAreaCodeTreeTest, RejectsEmptyAndNonDigitInputUnchanged)
 {
 	const std::string before = tree.ToString();
-	const auto messageOf = [this](const std::string& digits) {
-		try
-		{
-			tree.insert(digits);
-		}
-		catch (const number_format_exception& e)
-		{
-			return "number_format_exception: " + std::string(e.what());
-		}
-		catch (const std::invalid_argument& e)
-		{
-			return "invalid_argument: " + std::string(e.what());
-		}
-		return std::string("nothing");
+	const auto formatError = [this](const std::string& digits) {
+		return thrownMessage<number_format_exception>([&] { tree.insert(digits); });
 	};
-	EXPECT_EQ("invalid_argument: strDigits empty", messageOf(""));
-	EXPECT_EQ("number_format_exception: Unexpected digit:a at position: 2 in :12a4", messageOf("12a4"));
-	EXPECT_EQ("number_format_exception: Unexpected digit:  at position: 1 in :1 2", messageOf("1 2"));
+	EXPECT_EQ("strDigits empty", thrownMessage<std::invalid_argument>([this] { tree.insert(""); }));
+	EXPECT_EQ("Unexpected digit:a at position: 2 in :12a4", formatError("12a4"));
+	EXPECT_EQ("Unexpected digit:  at position: 1 in :1 2", formatError("1 2"));
 	EXPECT_EQ(before, tree.ToString());
 }
 

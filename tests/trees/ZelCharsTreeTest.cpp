@@ -2,6 +2,8 @@
 
 #include "trees/ZelCharsTree.h"
 
+#include "support/ThrowMessage.h"
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -43,15 +45,7 @@ TEST_F(ZelCharsTreeTest, IsAreaCodeNeedsAMarkedEndOfAWholePath)
 
 TEST_F(ZelCharsTreeTest, RefusesAnEmptyString)
 {
-	try
-	{
-		tree.insert("");
-		FAIL() << "no exception";
-	}
-	catch (const std::invalid_argument& e)
-	{
-		EXPECT_STREQ(" Unexpected value:", e.what());
-	}
+	EXPECT_EQ(" Unexpected value:", numbering::test::thrownMessage<std::invalid_argument>([this] { tree.insert(""); }));
 }
 
 TEST_F(ZelCharsTreeTest, AssignmentMergesOnlySubtreesUnderNewKeys)
