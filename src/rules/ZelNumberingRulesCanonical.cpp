@@ -57,7 +57,7 @@ public:
 		}
 		else if (!classifyDialled(number))
 		{
-			return m_Working;
+			return std::move(m_Working);
 		}
 		if (m_CountryCode.empty())
 		{
@@ -71,7 +71,8 @@ public:
 		{
 			m_Working = m_Rules.formatCanonicalNumber(std::move(m_Working), pattern);
 		}
-		return m_Working;
+		// The conversion is used once: its result is handed over, not copied.
+		return std::move(m_Working);
 	}
 
 private:
@@ -287,7 +288,7 @@ private:
 
 	void convertWithPlan(ZelCNP* cnp)
 	{
-		const std::string cleaned = m_Rules.checkPhoneNumber(m_Working);
+		std::string cleaned = m_Rules.checkPhoneNumber(m_Working);
 		if (cleaned.empty())
 		{
 			// The label says "Altered" although the number is kept as it is; host log filters look for it.
@@ -297,7 +298,7 @@ private:
 			}
 			return;
 		}
-		m_Working = cleaned;
+		m_Working = std::move(cleaned);
 		if (ZelRulesSupport::isMarked(m_Working))
 		{
 			return;

@@ -97,10 +97,10 @@ std::string dialWithExternalPrefix(
 	}
 	else
 	{
-		const std::string canonical = rules.makeCanonicalNumber(item, number, "", false);
+		std::string canonical = rules.makeCanonicalNumber(item, number, "", false);
 		if (!canonical.empty())
 		{
-			dialable = rules.makeDialableNumber(item, canonical);
+			dialable = rules.makeDialableNumber(item, std::move(canonical));
 		}
 	}
 	if (dialable.empty())
