@@ -2,6 +2,8 @@
 
 #include "numbering/ZelCountryRuleItem.h"
 
+#include "support/RowName.h"
+
 #include "Poco/AutoPtr.h"
 
 #include <gtest/gtest.h>
@@ -12,18 +14,13 @@ namespace {
 
 struct RuleCase
 {
-	const char* label;
+	const char* name;
 	const char* longDistRule;
 	const char* localRule;
 	const char* expectedLongDistRule;
 	const char* expectedLongDistPrefix;
 	const char* expectedLocalPrefix;
 };
-
-void PrintTo(const RuleCase& testCase, std::ostream* out)
-{
-	*out << testCase.label;
-}
 
 class ZelCountryRuleItemTest: public ::testing::TestWithParam<RuleCase>
 {
@@ -49,7 +46,7 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"LeadingF", "FG", "F", "FG", "", ""},
 		RuleCase{"LowerCaseIgnored", "0fi", "0g", "0fi", "", ""},
 		RuleCase{"Empty", "", "", "", "", ""}),
-	[](const ::testing::TestParamInfo<RuleCase>& info) { return std::string(info.param.label); });
+	numbering::test::RowName());
 
 TEST(ZelCountryRuleItemCountTest, CountsLiveRecords)
 {

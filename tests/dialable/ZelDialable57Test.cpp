@@ -3,6 +3,7 @@
 #include "dialable/ZelDialable_57.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -18,12 +19,6 @@ namespace {
 const char* const A_DIRECTORY = "(a directory)";
 const std::string DEBUG_LINE = "DEBUG N9numbering14ZelDialable_57E - ";
 const std::string INFO_LINE = "INFO N9numbering14ZelDialable_57E - ";
-
-template <typename Case>
-std::string caseName(const ::testing::TestParamInfo<Case>& info)
-{
-	return info.param.name;
-}
 
 /// Traces on and France (trunk prefix 0) configured; the long-distance rule record has the trunk prefix 0.
 class ZelDialable57Test: public test::ConfigFixture
@@ -100,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(PlanFiles,
 			"GapEndsTheList", "OP_0000 = 456\nOP_0002 = 5\n", FALLBACK, "0912345678", {"456"}, {"5"}, "", "Not found"},
 		LoadingCase{"ValueWithoutDigitsEndsTheList", "OP_0000 = 456\nOP_0001 = none\nOP_0002 = 5\n", nullptr,
 			"0912345678", {"456"}, {"5"}, "", "strDigits empty"}),
-	caseName<LoadingCase>);
+	numbering::test::RowName());
 
 struct PrefixCase
 {
@@ -132,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 						  "Colombian operator prefix"}},
 		PrefixCase{"PartOfPrefix", "4", "", {}},
 		PrefixCase{"NotDigits", std::string("4\0\xff", 3), "", {}}),
-	caseName<PrefixCase>);
+	numbering::test::RowName());
 
 struct DialCase
 {
@@ -176,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(International,
 		DialCase{"SubscriberAndAreaPart", "EF", "33", "1", "23456789", "00423456789123456789", "1"},
 		DialCase{"TrunkPrefixDropped", "F", "33", "0", "23456789", "00423456789", ""},
 		DialCase{"TrunkPrefixOfUnknownCountryKept", "F", "999", "0", "23456789", "004023456789", "0"}),
-	caseName<DialCase>);
+	numbering::test::RowName());
 
 TEST_F(ZelDialable57DialTest, LongDistanceDialsTheMobileDigitInPlaceOfTheOperatorCode)
 {

@@ -10,6 +10,7 @@
 #include "dialable/ZelDialable_7.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -82,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(CountryNumbers,
 		FactoryCase{"LongerNumber", "610", typeid(ZelDialable)},
 		FactoryCase{"LeadingZero", "07", typeid(ZelDialable)},
 		FactoryCase{"Padded", " 7", typeid(ZelDialable)}),
-	[](const ::testing::TestParamInfo<FactoryCase>& info) { return std::string(info.param.name); });
+	numbering::test::RowName());
 
 } // namespace
 } // namespace numbering

@@ -4,6 +4,7 @@
 
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -27,18 +28,6 @@ struct RuleCase
 	std::string dest;
 	std::string expected;
 };
-
-void PrintTo(const RuleCase& c, std::ostream* os)
-{
-	*os << c.name;
-}
-
-/// Cases name their tests by their name.
-template <class Case>
-std::string caseName(const ::testing::TestParamInfo<Case>& info)
-{
-	return info.param.name;
-}
 
 /// The rule under test goes into the field of the maker called; the other field holds a decoy rule "9F" whose
 /// prefix 9 shows up if a maker reads the wrong rule.
@@ -76,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"LongDistEmptyRuleDialsDest", Call::LongDist, "", "1", "23456789", "23456789"},
 		RuleCase{"LongDistFAddsAreaAndPrefix", Call::LongDist, "0F", "1", "23456789", "0123456789"},
 		RuleCase{"LongDistIAddsOnlyPrefix", Call::LongDist, "0I", "1", "23456789", "023456789"}),
-	caseName<RuleCase>);
+	numbering::test::RowName());
 
 class ZelDialableTest: public test::ConfigFixture
 {
@@ -117,11 +106,6 @@ struct InternationalCase
 	std::string areaAfter;
 };
 
-void PrintTo(const InternationalCase& c, std::ostream* os)
-{
-	*os << c.name;
-}
-
 class ZelDialableInternationalTest: public ZelDialableTest, public ::testing::WithParamInterface<InternationalCase>
 {
 };
@@ -151,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		InternationalCase{"AreaOnlyStartingWithTrunkIsKept", "EF", "44", "020", "12345678", "004402012345678", "020"},
 		InternationalCase{"UnknownCountryKeepsArea", "EF", "999", "0", "12", "00999012", "0"},
 		InternationalCase{"TrunkKeptWithoutLetterF", "E", "44", "0", "2012345678", "00442012345678", "0"}),
-	caseName<InternationalCase>);
+	numbering::test::RowName());
 
 } // namespace
 } // namespace numbering

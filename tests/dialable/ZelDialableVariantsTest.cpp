@@ -3,6 +3,7 @@
 #include "dialable/ZelDialableFactory.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -73,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(Countries,
 		LongDistCase{"RussianTenDigitsWithoutArea", "7", "", "", "4951234567", "84951234567"},
 		LongDistCase{"RussianNineDigits", "7", "", "49", "1234567", "491234567"},
 		LongDistCase{"RussianElevenDigits", "7", "", "4951", "1234567", "49511234567"}),
-	[](const ::testing::TestParamInfo<LongDistCase>& info) { return std::string(info.param.name); });
+	numbering::test::RowName());
 
 TEST_F(ZelDialableVariantsTest, RussianNumbersWithoutRussiaInTheConfigurationAreDialledAsTheyStand)
 {

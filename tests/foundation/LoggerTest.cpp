@@ -12,16 +12,7 @@ using numbering::test::LogCapture;
 
 namespace {
 
-class LoggerTest: public ::testing::Test
-{
-protected:
-	void SetUp() override
-	{
-		LogCapture::clear();
-	}
-};
-
-TEST_F(LoggerTest, GetLoggerReturnsAFreshObjectEachCall)
+TEST(LoggerTest, GetLoggerReturnsAFreshObjectEachCall)
 {
 	// The library keeps its loggers for the life of the process; the test gives its own back.
 	std::unique_ptr<Logger> first(Logger::getLogger("same"));
@@ -30,8 +21,9 @@ TEST_F(LoggerTest, GetLoggerReturnsAFreshObjectEachCall)
 	EXPECT_EQ("same", second->getName());
 }
 
-TEST_F(LoggerTest, WritesLevelWordNameSeparatorAndMessageAtLevelOne)
+TEST(LoggerTest, WritesLevelWordNameSeparatorAndMessageAtLevelOne)
 {
+	LogCapture::clear();
 	std::unique_ptr<Logger> logger(Logger::getLogger("N9numbering18ZelNumberingConfigE"));
 	logger->debug("loadDialingRules()");
 	logger->info("");

@@ -29,17 +29,12 @@ private:
 	bool& m_Destroyed;
 };
 
-TEST(ZelClidTest, DefaultHasEmptyNumberAndOriginAny)
+TEST(ZelClidTest, DefaultIsEmptyFromAnyAndEveryConstructionCountsEvenAfterRelease)
 {
+	const int before = ZelClid::_count;
 	Poco::AutoPtr<ZelClid> clid(new ZelClid());
 	EXPECT_EQ("", clid->getNumber());
 	EXPECT_EQ(&ZelEnumOrigin::ANY, clid->getOrigin());
-}
-
-TEST(ZelClidTest, CountsEveryConstructionAndKeepsCountingAfterRelease)
-{
-	const int before = ZelClid::_count;
-	(new ZelClid())->release();
 	(new ZelClid("+33 (1) 23456789", &ZelEnumOrigin::NATIONAL))->release();
 	EXPECT_EQ(before + 2, ZelClid::_count);
 }

@@ -2,6 +2,8 @@
 
 #include "numbering/ZelEnumOrigin.h"
 
+#include "support/RowName.h"
+
 #include <gtest/gtest.h>
 
 using numbering::ZelEnumOrigin;
@@ -14,11 +16,6 @@ struct OriginCase
 	const char* name;
 	int id;
 };
-
-void PrintTo(const OriginCase& testCase, std::ostream* out)
-{
-	*out << testCase.name;
-}
 
 class ZelEnumOriginTest: public ::testing::TestWithParam<OriginCase>
 {
@@ -37,7 +34,7 @@ INSTANTIATE_TEST_SUITE_P(Origins,
 		OriginCase{&ZelEnumOrigin::NATIONAL, "National", 3},
 		OriginCase{&ZelEnumOrigin::PRIVATE_1, "Private", 4},
 		OriginCase{&ZelEnumOrigin::PUBLIC_1, "Public", 5}),
-	[](const ::testing::TestParamInfo<OriginCase>& info) { return std::string(info.param.name); });
+	numbering::test::RowName());
 
 TEST(TypesafeEnumTest, ComparesByIdOnly)
 {

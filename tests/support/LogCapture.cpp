@@ -58,5 +58,23 @@ bool LogCapture::contains(const std::string& text)
 	return count(text) > 0;
 }
 
+std::vector<std::string> LogCapture::matching(const std::string& start, const std::string& text)
+{
+	std::vector<std::string> result;
+	for (const std::string& line : lines())
+	{
+		if (line.rfind(start, 0) == 0 && line.find(text) != std::string::npos) result.push_back(line);
+	}
+	return result;
+}
+
+std::vector<std::string> LogCapture::messages()
+{
+	std::vector<std::string> result;
+	for (const std::string& line : lines())
+		result.push_back(line.substr(line.find(" - ") + 3));
+	return result;
+}
+
 } // namespace test
 } // namespace numbering

@@ -27,6 +27,12 @@ public:
 
 	/// True when a captured line contains text.
 	static bool contains(const std::string& text);
+
+	/// The captured lines that begin with start and contain text: matching("ERROR ") gives the error lines.
+	static std::vector<std::string> matching(const std::string& start, const std::string& text = "");
+
+	/// The captured lines without their level and logger name: "DEBUG N9numbering6ZelCNPE - x" gives "x".
+	static std::vector<std::string> messages();
 };
 
 } // namespace test

@@ -6,6 +6,7 @@
 #include "numbering/number_format_exception.h"
 
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 #include "support/ThrowMessage.h"
 #include "trees/ZelCharsTreeElement.h"
 
@@ -29,11 +30,6 @@ struct Extraction
 	const char* number;
 	const char* expected;
 };
-
-void PrintTo(const Extraction& extraction, std::ostream* os)
-{
-	*os << extraction.name;
-}
 
 class ZelAreaCodeTreeTest: public ::testing::TestWithParam<Extraction>
 {
@@ -63,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		Extraction{"UnknownFirstDigit", "987654321", ""},
 		Extraction{"Empty", "", ""},
 		Extraction{"Binary", "\x01\xff", ""}),
-	[](const ::testing::TestParamInfo<Extraction>& info) { return info.param.name; });
+	numbering::test::RowName());
 
 TEST_F(ZelAreaCodeTreeTest, RefusesAPathAlreadyPresent)
 {
