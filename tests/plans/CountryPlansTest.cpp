@@ -11,6 +11,7 @@
 #include "plans/ZelCNP_7.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -138,10 +139,7 @@ const Conversion CONVERSIONS[] = {
 	{"NzBehindExternalPrefixWithoutTrunk", "NZ", "1930712345", "1930712345", "1", "9"},
 };
 
-INSTANTIATE_TEST_SUITE_P(
-	Plans, CountryPlansTest, ::testing::ValuesIn(CONVERSIONS), [](const ::testing::TestParamInfo<Conversion>& info) {
-		return std::string(info.param.name);
-	});
+INSTANTIATE_TEST_SUITE_P(Plans, CountryPlansTest, ::testing::ValuesIn(CONVERSIONS), numbering::test::RowName());
 
 /// The debug messages of one plan's life: built, asked for number, released. "@" stands for the site.
 struct Trace

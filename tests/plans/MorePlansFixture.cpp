@@ -84,16 +84,6 @@ std::string MorePlansFixture::siteName(const SiteSetup& site)
 	return std::string(site.country) + "/" + site.areas + " ext " + site.ext;
 }
 
-std::string planRowName(const ::testing::TestParamInfo<PlanRow>& info)
-{
-	return info.param.name;
-}
-
-void PrintTo(const PlanRow& row, std::ostream* os)
-{
-	*os << row.name;
-}
-
 std::string MorePlanTest::canonical(const std::string& callingCode)
 {
 	const PlanRow& row = GetParam();

@@ -69,12 +69,6 @@ struct PlanRow
 	Setting setting = Setting::Sample;
 };
 
-/// Row names for the parameterised tests.
-std::string planRowName(const ::testing::TestParamInfo<PlanRow>& info);
-
-/// Prints a row as its name in failure messages.
-void PrintTo(const PlanRow& row, std::ostream* os);
-
 /// Runs a row through the plan that the factory makes for a calling code.
 class MorePlanTest: public MorePlansFixture, public ::testing::WithParamInterface<PlanRow>
 {

@@ -3,6 +3,7 @@
 #include "plans/MorePlansFixture.h"
 #include "plans/ZelCNPFactory.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -50,7 +51,7 @@ TEST_P(TrunkPrefixPlansTest, MakesCanonicalNumber)
 	EXPECT_EQ(GetParam().canonical, canonical(CALLING_CODES.at(GetParam().site.country)));
 }
 
-INSTANTIATE_TEST_SUITE_P(PlanOnly, TrunkPrefixPlansTest, ::testing::ValuesIn(PLAN_ONLY), planRowName);
+INSTANTIATE_TEST_SUITE_P(PlanOnly, TrunkPrefixPlansTest, ::testing::ValuesIn(PLAN_ONLY), RowName());
 
 /// Debug lines of one conversion, without the logger names.
 std::vector<std::string> messages()
@@ -99,11 +100,6 @@ struct ConstructionRow
 	const char* noCountryFile;
 	const char* noDefaultFile;
 };
-
-void PrintTo(const ConstructionRow& row, std::ostream* os)
-{
-	*os << row.callingCode;
-}
 
 const ConstructionRow CONSTRUCTIONS[] = {
 	{"31", "N9numbering9ZelCNP_31E", "No specific configuration file for Netherlands",

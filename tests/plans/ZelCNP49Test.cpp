@@ -7,6 +7,7 @@
 #include "plans/ZelCNP_49.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -15,7 +16,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <iterator>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -25,29 +25,12 @@ using numbering::test::LogCapture;
 
 namespace {
 
-/// German area codes without the trunk prefix, in a realistic order: the short codes of the big cities
-/// first, so that longer codes sharing their first digits (30 / 3301, 89 / 8031) come later.
-const char* const GERMAN_AREA_CODES[] = {"30", "40", "69", "89", "201", "202", "203", "208", "209", "211", "212", "214",
-	"221", "228", "231", "234", "241", "251", "261", "271", "281", "291", "331", "335", "340", "341", "345", "351",
-	"355", "361", "365", "371", "375", "381", "385", "391", "395", "421", "431", "441", "451", "461", "471", "481",
-	"491", "511", "521", "531", "541", "551", "561", "571", "581", "591", "611", "621", "631", "641", "651", "661",
-	"671", "681", "711", "721", "731", "741", "751", "761", "771", "781", "791", "821", "831", "841", "851", "861",
-	"871", "881", "906", "911", "921", "931", "941", "951", "961", "971", "981", "991", "2041", "2043", "2051", "2131",
-	"2151", "2161", "2191", "2202", "2203", "2222", "2241", "2302", "2303", "2304", "2305", "2306", "2307", "2331",
-	"2351", "2361", "2381", "2402", "2421", "2431", "2451", "3301", "3302", "3303", "3304", "3306", "3307", "3321",
-	"3322", "3327", "3328", "3331", "3332", "3334", "3335", "3337", "3338", "3341", "3342", "3344", "3361", "3362",
-	"3364", "3366", "3371", "3372", "3375", "3377", "3378", "3379", "3381", "3391", "3394", "3395", "3831", "3834",
-	"3838", "3841", "3843", "6101", "6102", "6103", "6104", "6105", "6106", "6107", "6108", "6109", "6131", "6142",
-	"6151", "6171", "6172", "6181", "6201", "6221", "6232", "6241", "6251", "6321", "6341", "7021", "7031", "7071",
-	"7121", "7131", "7141", "7151", "7161", "7171", "7221", "7231", "7251", "7321", "7361", "7531", "7541", "7621",
-	"7721", "7731", "7751", "7821", "8024", "8031", "8041", "8051", "8061", "8071", "8081", "8092", "8102", "8106",
-	"8121", "8122", "8131", "8141", "8151", "8161", "8171", "8191", "8221", "8231", "8241", "8251", "8261", "8271",
-	"8321", "8331", "8341", "8362", "8382", "8421", "8431", "8441", "8541", "8551", "8561", "8571", "8621", "8631",
-	"8651", "8652", "8671", "8721", "8731", "8741", "8761", "8821", "8822", "8841", "8861", "33203", "33204", "33205",
-	"33232", "33233", "33234", "39203", "39204", "39205", "39206", "39207", "39208", "39209"};
+/// Short codes of big cities before the longer codes that share their first digits (30 / 3301, 89 / 8031).
+const char* const GERMAN_AREA_CODES[] = {"30", "40", "69", "89", "201", "771", "911", "3301", "3391", "3395", "7731",
+	"8031", "8041", "33203", "39208", "39209"};
 
-/// The table file: the codes above as "AC_%04d" entries, then entries as sites write them by hand: with
-/// blanks and a dash, without any digit, and "33", a path of longer codes.
+/// The codes above as "AC_%04d" entries, then entries as sites write them by hand: with blanks and a dash,
+/// without any digit, and "33", a path of longer codes.
 std::string germanTable(const std::string& translateLine)
 {
 	std::string text = translateLine;
@@ -64,21 +47,8 @@ std::string germanTable(const std::string& translateLine)
 	return text;
 }
 
-const std::string PLAN_LOGGER = "N9numbering9ZelCNP_49E";
-
-struct Conversion
-{
-	const char* name;
-	const char* extPrefix;
-	const char* siteArea;
-	const char* number;
-	const char* expected;
-};
-
-void PrintTo(const Conversion& conversion, std::ostream* os)
-{
-	*os << conversion.name;
-}
+const std::string TABLE = germanTable("Translate=1\n");
+const std::string DIRECTORY = "(a directory)";
 
 class ZelCNP49Test: public numbering::test::ConfigFixture
 {
@@ -100,13 +70,22 @@ protected:
 	}
 };
 
+struct Conversion
+{
+	const char* name;
+	const char* extPrefix;
+	const char* siteArea;
+	const char* number;
+	const char* expected;
+};
+
 class ZelCNP49TranslateTest: public ZelCNP49Test, public ::testing::WithParamInterface<Conversion>
 {
 };
 
 TEST_P(ZelCNP49TranslateTest, MakesCanonicalNumber)
 {
-	writeFile("r7731cnp_49.properties", germanTable("Translate=1\n"));
+	writeFile("r7731cnp_49.properties", TABLE);
 	const Conversion& c = GetParam();
 	EXPECT_EQ(c.expected, convert(c.extPrefix, c.siteArea, c.number));
 }
@@ -134,55 +113,60 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		Conversion{"NothingBehindCode", "9", "", "039209", "039209"},
 		Conversion{"InternationalNotBehindPrefix", "9", "", "0049891234", "0049891234"},
 		Conversion{"BinaryNumber", "0", "", "0\x01\xff\x7f", "0\x01\xff\x7f"}),
-	[](const ::testing::TestParamInfo<Conversion>& info) { return info.param.name; });
+	numbering::test::RowName());
 
-TEST_F(ZelCNP49Test, TranslateOtherThanOneKeepsLocalNumbers)
+/// The site's table file (DIRECTORY: a directory in its place) and its default twin, "" for missing; one
+/// conversion at a site in 7731 and the info lines the plan writes about missing files.
+struct FileRow
 {
-	writeFile("r7731cnp_49.properties", germanTable("Translate=yes\n"));
-	EXPECT_EQ("1234567", convert("0", "7731", "1234567"));
-	EXPECT_EQ("91234567", convert("9", "7731", "91234567"));
-	EXPECT_EQ("+49 (89) 1234567", convert("9", "7731", "90891234567"));
+	const char* name;
+	std::string table;
+	std::string defaultTable;
+	const char* extPrefix;
+	const char* number;
+	const char* expected;
+	int missingFileLines;
+};
+
+class ZelCNP49FileTest: public ZelCNP49Test, public ::testing::WithParamInterface<FileRow>
+{
+};
+
+TEST_P(ZelCNP49FileTest, ReadsTheSiteFileElseItsDefaultTwin)
+{
+	const FileRow& row = GetParam();
+	if (row.table == DIRECTORY)
+		std::filesystem::create_directory(configDir() + "r7731cnp_49.properties");
+	else if (!row.table.empty())
+		writeFile("r7731cnp_49.properties", row.table);
+	if (!row.defaultTable.empty()) writeFile("r7731cnp_49_default.properties", row.defaultTable);
+	EXPECT_EQ(row.expected, convert(row.extPrefix, "7731", row.number));
+	EXPECT_EQ(row.missingFileLines, LogCapture::count("N9numbering9ZelCNP_49E"));
+	EXPECT_EQ(row.missingFileLines,
+		LogCapture::count("INFO N9numbering9ZelCNP_49E - No specific dialing rules configuration file"));
 }
 
-TEST_F(ZelCNP49Test, FileWithoutTranslateKeepsTranslationOn)
-{
-	writeFile("r7731cnp_49.properties", germanTable(""));
-	EXPECT_EQ("+49 (7731) 1234567", convert("0", "7731", "1234567"));
-}
-
-TEST_F(ZelCNP49Test, DefaultFileIsReadSilentlyWhenCountryFileIsMissing)
-{
-	writeFile("r7731cnp_49_default.properties", "Translate=0\nAC_0000=8031\n");
-	EXPECT_EQ("+49 (8031) 12345", convert("0", "7731", "0803112345"));
-	EXPECT_EQ("1234567", convert("0", "7731", "1234567"));
-	EXPECT_EQ(0, LogCapture::count(PLAN_LOGGER));
-}
-
-TEST_F(ZelCNP49Test, DirectoryInPlaceOfCountryFileFallsBackToDefaultFile)
-{
-	std::filesystem::create_directory(configDir() + "r7731cnp_49.properties");
-	writeFile("r7731cnp_49_default.properties", "AC_0000=8031\n");
-	EXPECT_EQ("+49 (8031) 12345", convert("0", "7731", "0803112345"));
-}
-
-TEST_F(ZelCNP49Test, CountryFileHidesDefaultFile)
-{
-	writeFile("r7731cnp_49.properties", "AC_0000=89\n");
-	writeFile("r7731cnp_49_default.properties", "AC_0000=8031\n");
-	EXPECT_EQ("+49 (7731) 803112345", convert("0", "7731", "0803112345"));
-}
-
-TEST_F(ZelCNP49Test, WithoutAnyFileEveryNumberTakesTheSiteArea)
-{
-	EXPECT_EQ("+49 (7731) 891234567", convert("0", "7731", "0891234567"));
-	EXPECT_EQ("+49 (7731) 1234567", convert("0", "7731", "1234567"));
-	EXPECT_EQ(2, LogCapture::count("INFO N9numbering9ZelCNP_49E - No specific dialing rules configuration file"));
-	EXPECT_EQ(2, LogCapture::count(PLAN_LOGGER));
-}
+INSTANTIATE_TEST_SUITE_P(Files,
+	ZelCNP49FileTest,
+	::testing::Values(
+		FileRow{"TranslateOtherThanOneKeepsLocal", germanTable("Translate=yes\n"), "", "0", "1234567", "1234567", 0},
+		FileRow{"TranslateOtherThanOneKeepsLocalBehindPrefix", germanTable("Translate=yes\n"), "", "9", "91234567",
+			"91234567", 0},
+		FileRow{"TranslateOtherThanOneStillReadsNational", germanTable("Translate=yes\n"), "", "9", "90891234567",
+			"+49 (89) 1234567", 0},
+		FileRow{"NoTranslateLineKeepsTranslationOn", germanTable(""), "", "0", "1234567", "+49 (7731) 1234567", 0},
+		FileRow{"DefaultTwinReadSilently", "", "Translate=0\nAC_0000=8031\n", "0", "0803112345", "+49 (8031) 12345", 0},
+		FileRow{"DefaultTwinTranslation", "", "Translate=0\nAC_0000=8031\n", "0", "1234567", "1234567", 0},
+		FileRow{"DirectoryInPlaceOfSiteFile", DIRECTORY, "AC_0000=8031\n", "0", "0803112345", "+49 (8031) 12345", 0},
+		FileRow{
+			"SiteFileHidesDefaultTwin", "AC_0000=89\n", "AC_0000=8031\n", "0", "0803112345", "+49 (7731) 803112345", 0},
+		FileRow{"NoFileNational", "", "", "0", "0891234567", "+49 (7731) 891234567", 1},
+		FileRow{"NoFileLocal", "", "", "0", "1234567", "+49 (7731) 1234567", 1}),
+	numbering::test::RowName());
 
 TEST_F(ZelCNP49Test, TracesConstructionAndAreaCodeSearch)
 {
-	writeFile("r7731cnp_49.properties", germanTable("Translate=1\n"));
+	writeFile("r7731cnp_49.properties", TABLE);
 	Logger::m_Traces = true;
 	ZelDialRulesItem rules("DE", "9", 0, "7731", 0, "");
 	LogCapture::clear();
@@ -203,7 +187,7 @@ TEST_F(ZelCNP49Test, TracesConstructionAndAreaCodeSearch)
 
 TEST_F(ZelCNP49Test, SelfTestPrintsTheFourConversions)
 {
-	writeFile("r7731cnp_49.properties", germanTable("Translate=1\n"));
+	writeFile("r7731cnp_49.properties", TABLE);
 	::testing::internal::CaptureStdout();
 	EXPECT_EQ(0, ZelCNP_49::main(nullptr));
 	EXPECT_EQ("Dialing rules : CountryCode : 'DE', External Prefix : '1', Local length : 9, AreaCode : '7711', "

@@ -3,6 +3,7 @@
 #include "plans/MorePlansFixture.h"
 #include "plans/ZelCNP_54.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -22,11 +23,6 @@ struct StripRow
 	const char* record;
 	std::vector<std::string> lines;
 };
-
-void PrintTo(const StripRow& row, std::ostream* os)
-{
-	*os << row.name;
-}
 
 const std::string NATIONAL = "number starts with national prefix:";
 
@@ -74,10 +70,7 @@ TEST_P(ZelCNP54StripTest, SplitsAndTracesTheNumber)
 	EXPECT_EQ(row.record, stripped ? stripped->ToString() : "");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-	Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), [](const ::testing::TestParamInfo<StripRow>& info) {
-		return info.param.name;
-	});
+INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), numbering::test::RowName());
 
 } // namespace
 } // namespace test

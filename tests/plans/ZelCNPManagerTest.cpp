@@ -23,6 +23,7 @@
 #include "plans/ZelCNP_7.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -104,11 +105,6 @@ struct Failure
 	const char* listedAs;
 };
 
-void PrintTo(const Failure& failure, std::ostream* os)
-{
-	*os << failure.name;
-}
-
 class ZelCNPManagerFailureTest: public ZelCNPManagerTest, public ::testing::WithParamInterface<Failure>
 {
 };
@@ -127,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(Keys,
 		Failure{"UnknownCountry", "XX", "XX"},
 		Failure{"CountryWithoutPlanUpperCased", "es", "ES"},
 		Failure{"LongKeyUpperCased", "deu", "DEU"}),
-	[](const ::testing::TestParamInfo<Failure>& info) { return info.param.name; });
+	numbering::test::RowName());
 
 TEST_F(ZelCNPManagerTest, LowerCaseKeyIsRebuiltOnEveryRequest)
 {
@@ -185,11 +181,6 @@ struct PlanClass
 	const char* callingCode;
 	const std::type_info* type;
 };
-
-void PrintTo(const PlanClass& planClass, std::ostream* os)
-{
-	*os << planClass.callingCode;
-}
 
 class ZelCNPFactoryTest: public numbering::test::ConfigFixture, public ::testing::WithParamInterface<PlanClass>
 {

@@ -5,6 +5,7 @@
 #include "dialable/ZelDialable_54.h"
 #include "plans/MorePlansFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -23,11 +24,6 @@ struct DialRow
 	const char* dest;
 	const char* dialled;
 };
-
-void PrintTo(const DialRow& row, std::ostream* os)
-{
-	*os << row.name;
-}
 
 // The worked examples dial the other cases back through the facade; these are the rows only the maker sees.
 const DialRow DIALS[] = {
@@ -59,10 +55,7 @@ TEST_P(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
 	EXPECT_EQ(row.dialled, m_Maker->makeLocalDialableNumber(area, dest, rule, site.get()));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-	Argentina, ZelDialable54Test, ::testing::ValuesIn(DIALS), [](const ::testing::TestParamInfo<DialRow>& info) {
-		return info.param.name;
-	});
+INSTANTIATE_TEST_SUITE_P(Argentina, ZelDialable54Test, ::testing::ValuesIn(DIALS), numbering::test::RowName());
 
 class ZelDialable54FallbackTest: public MorePlansFixture
 {
