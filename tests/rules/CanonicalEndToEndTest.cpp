@@ -4,7 +4,9 @@
 #include "numbering/ZelEnumOrigin.h"
 
 #include "CanonicalSitesFixture.h"
+#include "support/FacadeCall.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -17,6 +19,8 @@ using numbering::ZelClid;
 using numbering::ZelEnumOrigin;
 using numbering::test::CanonicalSitesFixture;
 using numbering::test::LogCapture;
+using numbering::test::Op;
+using numbering::test::RowName;
 
 namespace {
 
@@ -24,51 +28,71 @@ namespace {
 struct Case
 {
 	const char* name;
+	Op op;
 	const char* site;
 	const char* input;
 	const char* expected;
 };
 
-template <typename Param>
-std::string caseName(const ::testing::TestParamInfo<Param>& info)
-{
-	return info.param.name;
-}
-
 class SiteCaseTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<Case>
 {
 };
 
-class MakeCanonicalNumberTest: public SiteCaseTest
+TEST_P(SiteCaseTest, GivesTheExpectedTextWithoutAnError)
 {
-};
-
-TEST_P(MakeCanonicalNumberTest, GivesTheCanonicalFormInTheCountrysMask)
-{
-	EXPECT_EQ(GetParam().expected, rules()->makeCanonicalNumber(site(GetParam().site), GetParam().input, ""));
+	const Case& c = GetParam();
+	EXPECT_EQ(c.expected, numbering::test::callFacade(c.op, site(c.site), c.input));
+	EXPECT_EQ(std::vector<std::string>(), LogCapture::matching("ERROR "));
 }
 
-INSTANTIATE_TEST_SUITE_P(Sites,
-	MakeCanonicalNumberTest,
-	::testing::Values(Case{"InternalExtension", "Berlin", "1234", "1234"},
-		Case{"ExceptionNumber", "Berlin", "11833", "11833"},
-		Case{"NationalNumber", "Berlin", "(089) 1234-5678", "+49 (89) 123 45678"},
-		Case{"LocalSubscriberGetsSiteArea", "Berlin", "76985411", "+49 (30) 769 85411"},
-		Case{"PlusBlankNumber", "Berlin", " + 49 221 1234567 ", "+49 (221) 123 4567"},
-		Case{"AbroadToOwnCountryIsNational", "Berlin", "0049 30 1234567", "+49 (30) 123 4567"},
-		Case{"InternationalWithoutPlan", "Berlin", "0034 91 123 4567", "+34 911234567"},
-		Case{"InternationalWithTrunkPrefix", "Berlin", "0039 06 1234 5678", "+39 (0) 0612345678"},
-		Case{"PlusNumberWithoutPlan", "Berlin", "+34 91 123 4567", "+34 911234567"},
-		Case{"PlusNumberUnknownCallingCode", "Berlin", "+999 1234567", "+999 1234567"},
-		Case{"ExtensionAfterBarDropped", "Berlin", "030 1234567|12", "+49 (30) 123 4567"},
-		Case{"ServiceCodeLosesLayout", "Berlin", "#31# 030-1234|9", "#31#0301234"},
-		Case{"MarkedNumberByteForByte", "Berlin", " 030***1 x", " 030***1 x"},
-		Case{"LowerCaseKeypadLetter", "Berlin", "12a4", ""},
-		Case{"UnknownCallingCodeStaysDialled", "Madrid", "00999 1234567", "009991234567"},
-		Case{"NationalWithoutTrunkPrefix", "Madrid", "911234567", "+34 911234567"},
-		Case{"LocalOrNationalUnknown", "Lisbon", "211234567", "211234567"},
-		Case{"AbroadDropsCarrierCode", "Bogota", "005 34 91 123 4567", "+34 911234567"}),
-	caseName<Case>);
+INSTANTIATE_TEST_SUITE_P(Canonical,
+	SiteCaseTest,
+	::testing::Values(Case{"InternalExtension", Op::Canonical, "Berlin", "1234", "1234"},
+		Case{"ExceptionNumber", Op::Canonical, "Berlin", "11833", "11833"},
+		Case{"NationalNumber", Op::Canonical, "Berlin", "(089) 1234-5678", "+49 (89) 123 45678"},
+		Case{"LocalSubscriberGetsSiteArea", Op::Canonical, "Berlin", "76985411", "+49 (30) 769 85411"},
+		Case{"PlusBlankNumber", Op::Canonical, "Berlin", " + 49 221 1234567 ", "+49 (221) 123 4567"},
+		Case{"AbroadToOwnCountryIsNational", Op::Canonical, "Berlin", "0049 30 1234567", "+49 (30) 123 4567"},
+		Case{"InternationalWithoutPlan", Op::Canonical, "Berlin", "0034 91 123 4567", "+34 911234567"},
+		Case{"InternationalWithTrunkPrefix", Op::Canonical, "Berlin", "0039 06 1234 5678", "+39 (0) 0612345678"},
+		Case{"PlusNumberWithoutPlan", Op::Canonical, "Berlin", "+34 91 123 4567", "+34 911234567"},
+		Case{"PlusNumberUnknownCallingCode", Op::Canonical, "Berlin", "+999 1234567", "+999 1234567"},
+		Case{"ExtensionAfterBarDropped", Op::Canonical, "Berlin", "030 1234567|12", "+49 (30) 123 4567"},
+		Case{"ServiceCodeLosesLayout", Op::Canonical, "Berlin", "#31# 030-1234|9", "#31#0301234"},
+		Case{"MarkedNumberByteForByte", Op::Canonical, "Berlin", " 030***1 x", " 030***1 x"},
+		Case{"UnknownCallingCodeStaysDialled", Op::Canonical, "Madrid", "00999 1234567", "009991234567"},
+		Case{"NationalWithoutTrunkPrefix", Op::Canonical, "Madrid", "911234567", "+34 911234567"},
+		Case{"LocalOrNationalUnknown", Op::Canonical, "Lisbon", "211234567", "211234567"},
+		Case{"AbroadDropsCarrierCode", Op::Canonical, "Bogota", "005 34 91 123 4567", "+34 911234567"},
+		Case{"ExtPrefixRemovedFirst", Op::CanonicalWithExtPrefix, "Berlin", "0030 1234567", "+49 (30) 123 4567"},
+		Case{"WithoutExtPrefixKept", Op::CanonicalWithExtPrefix, "Berlin", "1234", "1234"},
+		Case{"SiteWithoutExtPrefixInternal", Op::CanonicalWithExtPrefix, "BerlinDirect", "1234", ""},
+		Case{"SiteWithoutExtPrefixPlusNumber", Op::CanonicalWithExtPrefix, "BerlinDirect", "+49 30 1234567", ""},
+		// The German mask has laid the subscriber part out already, and that part is copied as it stands.
+		Case{"GSMLaidOutSubscriber", Op::GSM, "Berlin", "030 1234567", "+4930123 4567"},
+		Case{"GSMTrunkPrefixDropped", Op::GSM, "Rome", "0612345678", "+39612345678"},
+		Case{"GSMInternal", Op::GSM, "Berlin", "1234", "1234"}),
+	RowName());
+
+// makePhoneNumber converts dialled numbers too, addExternalPrefix only cleans them.
+INSTANTIATE_TEST_SUITE_P(Dialled,
+	SiteCaseTest,
+	::testing::Values(Case{"LocalArea", Op::Phone, "Berlin", "+49 (30) 1234567", "01234567"},
+		Case{"LongDistance", Op::Phone, "Berlin", "+49 89 12345678", "008912345678"},
+		Case{"International", Op::Phone, "Berlin", "+34 91 123 4567", "00034911234567"},
+		Case{"DialledNational", Op::Phone, "Berlin", " 030 1234567", "01234567"},
+		Case{"Extension", Op::Phone, "Berlin", "1234", "1234"},
+		Case{"ServiceCodeOnlyCleaned", Op::Phone, "Berlin", "*21#", "*21#"},
+		Case{"NoAreaIsLongDistance", Op::Phone, "Madrid", "+34 91 123 4567", "0911234567"},
+		Case{"CleanedOutsideNumber", Op::Prefix, "Berlin", "030 1234567", "00301234567"},
+		Case{"ExceptionNumber", Op::Prefix, "Berlin", "11833", "11833"},
+		Case{"PlusNumberConverted", Op::Prefix, "Berlin", "+49 (30) 1234567", "01234567"},
+		Case{"NoPrefixSiteTrims", Op::Prefix, "BerlinDirect", "  0612345678 ", "0612345678"},
+		Case{"DialPassesOnWithoutPlus", Op::Dial, "Berlin", " 49 (89) 123", "089123"},
+		Case{"DialPassesOnDialled", Op::Dial, "Berlin", "0301234", "0301234"},
+		Case{"DialNothingAfterArea", Op::Dial, "Berlin", "+49 (89) ", ""},
+		Case{"DialUnconfiguredSite", Op::Dial, "Unconfigured", "+49 (89) 123", "+49 (89) 123"}),
+	RowName());
 
 /// With traces on, a number left unconverted says why.
 class MakeCanonicalNumberTracesTest: public SiteCaseTest
@@ -84,37 +108,21 @@ TEST_P(MakeCanonicalNumberTracesTest, LogsHowTheNumberWasClassified)
 
 INSTANTIATE_TEST_SUITE_P(Sites,
 	MakeCanonicalNumberTracesTest,
-	::testing::Values(Case{"Internal", "Berlin", "1234", "Nothing to do for1234"},
-		Case{"International", "Berlin", "0034 911", "International number detected : '0034911' with CountryCode 'ES'"},
-		Case{"OwnCountryKeepsCarrierCode", "Bogota", "005 57 1 2345678", "Source number to be altered : '0512345678'"},
-		Case{"UnknownCallingCode", "Madrid", "00999 1234567",
+	::testing::Values(Case{"Internal", Op::Canonical, "Berlin", "1234", "Nothing to do for1234"},
+		Case{"International", Op::Canonical, "Berlin", "0034 911",
+			"International number detected : '0034911' with CountryCode 'ES'"},
+		Case{"OwnCountryKeepsCarrierCode", Op::Canonical, "Bogota", "005 57 1 2345678",
+			"Source number to be altered : '0512345678'"},
+		Case{"UnknownCallingCode", Op::Canonical, "Madrid", "00999 1234567",
 			"International number detected but no country code was found '00999 1234567'"},
-		Case{"UnknownPlusCallingCode", "Berlin", "+999 1234567", "No country code found for country number ''"},
-		Case{"SameRules", "Madrid", "911234567",
+		Case{"UnknownPlusCallingCode", Op::Canonical, "Berlin", "+999 1234567",
+			"No country code found for country number ''"},
+		Case{"SameRules", Op::Canonical, "Madrid", "911234567",
 			"There is no difference between local and national phone number format'911234567'"},
-		Case{"LocalOrNational", "Lisbon", "211234567",
+		Case{"LocalOrNational", Op::Canonical, "Lisbon", "211234567",
 			"Can't translate to a canonical phone number : we don't known if '211234567' is a local or national "
 			"phone number"}),
-	caseName<Case>);
-
-/// makeCanonicalNumber(..., true): the number comes with the site's external prefix, which is removed.
-class WithExtPrefixTest: public SiteCaseTest
-{
-};
-
-TEST_P(WithExtPrefixTest, RemovesTheExternalPrefixFirst)
-{
-	EXPECT_EQ(GetParam().expected, rules()->makeCanonicalNumber(site(GetParam().site), GetParam().input, "", true));
-	EXPECT_EQ(0, LogCapture::count("ERROR"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Sites,
-	WithExtPrefixTest,
-	::testing::Values(Case{"National", "Berlin", "0030 1234567", "+49 (30) 123 4567"},
-		Case{"WithoutPrefixKept", "Berlin", "1234", "1234"},
-		Case{"SiteWithoutPrefixInternal", "BerlinDirect", "1234", ""},
-		Case{"SiteWithoutPrefixPlusNumber", "BerlinDirect", "+49 30 1234567", ""}),
-	caseName<Case>);
+	RowName());
 
 /// A received number and the calling-line identity made of it.
 struct ClidCase
@@ -147,57 +155,20 @@ INSTANTIATE_TEST_SUITE_P(Origins,
 		ClidCase{"Abroad", "Berlin", "+34 91 123 4567", "34911234567", &ZelEnumOrigin::INTERNATIONAL},
 		ClidCase{
 			"AbroadTrunkPrefixDropped", "Berlin", "0039 06 1234 5678", "390612345678", &ZelEnumOrigin::INTERNATIONAL}),
-	caseName<ClidCase>);
+	RowName());
 
-using MakeClidFailureTest = CanonicalSitesFixture;
+using UnguardedOperationTest = CanonicalSitesFixture;
 
-TEST_F(MakeClidFailureTest, GivesNullOrThrows)
+TEST_F(UnguardedOperationTest, GiveNullOrThrow)
 {
 	EXPECT_EQ(nullptr, rules()->makeClid(site("Berlin"), "12x4"));
 	EXPECT_THROW(rules()->makeClid(nullptr, "1234"), std::invalid_argument);
 	EXPECT_THROW(rules()->makeClid(site("Berlin"), ""), std::invalid_argument);
 	EXPECT_THROW(rules()->makeClid(site("Unconfigured"), "+49 30 1234567"), std::runtime_error);
+	EXPECT_THROW(rules()->makeDialableNumber(site("Berlin"), ""), std::out_of_range);
 }
 
-/// What the exchange dials: makePhoneNumber converts dialled numbers too, addExternalPrefix only cleans them.
-struct DialCase
-{
-	const char* name;
-	bool convertDialled;
-	const char* site;
-	const char* input;
-	const char* expected;
-};
-
-class PhoneNumberTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<DialCase>
-{
-};
-
-TEST_P(PhoneNumberTest, GivesTheDigitsToDialWithTheExternalPrefixWhereWanted)
-{
-	const DialCase& c = GetParam();
-	EXPECT_EQ(c.expected, c.convertDialled ? rules()->makePhoneNumber(site(c.site), c.input)
-										   : rules()->addExternalPrefix(site(c.site), c.input));
-}
-
-INSTANTIATE_TEST_SUITE_P(Sites,
-	PhoneNumberTest,
-	::testing::Values(DialCase{"LocalArea", true, "Berlin", "+49 (30) 1234567", "01234567"},
-		DialCase{"LongDistance", true, "Berlin", "+49 89 12345678", "008912345678"},
-		DialCase{"International", true, "Berlin", "+34 91 123 4567", "00034911234567"},
-		DialCase{"DialledNational", true, "Berlin", " 030 1234567", "01234567"},
-		DialCase{"Extension", true, "Berlin", "1234", "1234"},
-		DialCase{"ServiceCodeOnlyCleaned", true, "Berlin", "*21#", "*21#"},
-		DialCase{"NoAreaIsLongDistance", true, "Madrid", "+34 91 123 4567", "0911234567"},
-		DialCase{"CleanedOutsideNumber", false, "Berlin", "030 1234567", "00301234567"},
-		DialCase{"ExceptionNumber", false, "Berlin", "11833", "11833"},
-		DialCase{"PlusNumberConverted", false, "Berlin", "+49 (30) 1234567", "01234567"},
-		DialCase{"NoPrefixSiteTrims", false, "BerlinDirect", "  0612345678 ", "0612345678"}),
-	caseName<DialCase>);
-
-using MakeDialableNumberTest = CanonicalSitesFixture;
-
-TEST_F(MakeDialableNumberTest, ReadsNoFurtherThanThirtyCharacters)
+TEST_F(UnguardedOperationTest, DialableNumberReadsNoFurtherThanThirtyCharacters)
 {
 	const std::string twentyDigits = "12345678901234567890";
 	const std::string canonical = "+49 (89) " + twentyDigits;
@@ -206,31 +177,12 @@ TEST_F(MakeDialableNumberTest, ReadsNoFurtherThanThirtyCharacters)
 	EXPECT_EQ("", rules()->makeDialableNumber(site("Berlin"), canonical + "1"));
 }
 
-TEST_F(MakeDialableNumberTest, PassesOnWhatItCannotRead)
-{
-	EXPECT_EQ("089123", rules()->makeDialableNumber(site("Berlin"), " 49 (89) 123"));
-	EXPECT_EQ("0301234", rules()->makeDialableNumber(site("Berlin"), "0301234"));
-	EXPECT_EQ("", rules()->makeDialableNumber(site("Berlin"), "+49 (89) "));
-	EXPECT_EQ("+49 (89) 123", rules()->makeDialableNumber(site("Unconfigured"), "+49 (89) 123"));
-	EXPECT_THROW(rules()->makeDialableNumber(site("Berlin"), ""), std::out_of_range);
-}
-
-using MakeGSMCanonicalNumberTest = CanonicalSitesFixture;
-
-TEST_F(MakeGSMCanonicalNumberTest, DropsLayoutAndTrunkPrefix)
-{
-	// The German mask has laid the subscriber part out already, and that part is copied as it stands.
-	EXPECT_EQ("+4930123 4567", rules()->makeGSMCanonicalNumber(site("Berlin"), "030 1234567", false));
-	EXPECT_EQ("+39612345678", rules()->makeGSMCanonicalNumber(site("Rome"), "0612345678", false));
-	EXPECT_EQ("1234", rules()->makeGSMCanonicalNumber(site("Berlin"), "1234", false));
-}
-
 /// A guarded operation's failure: "" and exactly one error line naming the operation, the cause, the number
 /// and the site.
 struct FailureCase
 {
 	const char* name;
-	const char* operation;
+	Op op;
 	const char* site;
 	const char* input;
 	const char* cause;
@@ -238,39 +190,34 @@ struct FailureCase
 
 class GuardedFailureTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<FailureCase>
 {
-protected:
-	std::string call(const FailureCase& c)
-	{
-		const std::string operation = c.operation;
-		if (operation == "makePhoneNumber") return rules()->makePhoneNumber(site(c.site), c.input);
-		if (operation == "addExternalPrefix") return rules()->addExternalPrefix(site(c.site), c.input);
-		return rules()->makeCanonicalNumber(site(c.site), c.input, "+C");
-	}
 };
 
 TEST_P(GuardedFailureTest, LogsOneErrorLineAndGivesNothing)
 {
 	const FailureCase& c = GetParam();
-	EXPECT_EQ("", call(c));
-	const std::string pattern = std::string(c.operation) == "makeCanonicalNumber" ? ", Pattern: '+C'" : "";
+	EXPECT_EQ("", numbering::test::callFacade(c.op, site(c.site), c.input, "+C"));
+	const char* operation = c.op == Op::Canonical ? "makeCanonicalNumber"
+							: c.op == Op::Phone   ? "makePhoneNumber"
+												  : "addExternalPrefix";
+	const std::string pattern = c.op == Op::Canonical ? ", Pattern: '+C'" : "";
 	const std::string dialRules = site(c.site) ? site(c.site)->ToString() : "";
 	const std::vector<std::string> expected{std::string("ERROR N9numbering17ZelNumberingRulesE - ZelNumberingRules::") +
-											c.operation + " exception: " + c.cause + " - PhoneNumber: '" + c.input +
-											"'" + pattern + "\n  DialRules: " + dialRules};
+											operation + " exception: " + c.cause + " - PhoneNumber: '" + c.input + "'" +
+											pattern + "\n  DialRules: " + dialRules};
 	EXPECT_EQ(expected, LogCapture::lines());
 }
 
 INSTANTIATE_TEST_SUITE_P(Operations,
 	GuardedFailureTest,
-	::testing::Values(FailureCase{"CanonicalBadCharacter", "makeCanonicalNumber", "Berlin", "030 12x4567",
+	::testing::Values(FailureCase{"CanonicalBadCharacter", Op::Canonical, "Berlin", "030 12x4567",
 						  "'strPhoneNumber' parameter is not a phone number"},
-		FailureCase{
-			"CanonicalNoSite", "makeCanonicalNumber", "none", "1234", "'myZelDialRulesItem' parameter can not be null"},
-		FailureCase{"CanonicalUnconfiguredSite", "makeCanonicalNumber", "Unconfigured", "0301234567",
+		FailureCase{"CanonicalLowerCaseKeypadLetter", Op::Canonical, "Berlin", "12a4",
+			"'strPhoneNumber' parameter is not a phone number"},
+		FailureCase{"CanonicalNoSite", Op::Canonical, "none", "1234", "'myZelDialRulesItem' parameter can not be null"},
+		FailureCase{"CanonicalUnconfiguredSite", Op::Canonical, "Unconfigured", "0301234567",
 			"Country code 'FR' is not supported"},
-		FailureCase{"PhoneNumberEmpty", "makePhoneNumber", "Berlin", "", "'strPhoneNumber' parameter can not be null"},
-		FailureCase{
-			"PrefixNoSite", "addExternalPrefix", "none", "1234", "'myZelDialRulesItem' parameter can not be null"}),
-	caseName<FailureCase>);
+		FailureCase{"PhoneNumberEmpty", Op::Phone, "Berlin", "", "'strPhoneNumber' parameter can not be null"},
+		FailureCase{"PrefixNoSite", Op::Prefix, "none", "1234", "'myZelDialRulesItem' parameter can not be null"}),
+	RowName());
 
 } // namespace

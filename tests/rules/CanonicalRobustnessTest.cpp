@@ -50,9 +50,7 @@ std::vector<std::string> randomInputs(int count)
 		const int pieceCount = i % 100 == 0 ? 600 : length(random);
 		std::string input;
 		for (int p = 0; p < pieceCount; ++p)
-		{
 			input += pieces[piece(random)];
-		}
 		inputs.push_back(input);
 	}
 	return inputs;

@@ -36,13 +36,9 @@ void prepareAsAHost(const std::vector<std::string>& siteCountries)
 	ZelNumberingRules::getInstance();
 	ZelNumberingConfig* config = ZelNumberingConfig::getInstance();
 	for (const std::string& name : config->getCountryList())
-	{
 		ZelDialableManager::getInstance()->getDialable(config->getCountryNumber(config->getCountryCodeFromName(name)));
-	}
 	for (std::size_t i = 0; i < siteCountries.size(); i += 2)
-	{
 		ZelCNPManager::getInstance()->getCNP(siteCountries[i]);
-	}
 }
 
 using ConcurrencyTest = SampleSitesFixture;
@@ -52,9 +48,7 @@ TEST_F(ConcurrencyTest, EightThreadsGetTheSingleThreadedResults)
 	const std::vector<std::pair<ZelDialRulesItem*, std::string>> work = workload();
 	std::vector<std::string> expected;
 	for (const auto& item : work)
-	{
 		expected.push_back(convertAll(item.first, item.second));
-	}
 	resetLibrary();
 	prepareAsAHost(siteCountries());
 
@@ -67,9 +61,7 @@ TEST_F(ConcurrencyTest, EightThreadsGetTheSingleThreadedResults)
 			// Start together, each at another place of the work, so that first uses of a plan collide.
 			--waiting;
 			while (waiting > 0)
-			{
 				std::this_thread::yield();
-			}
 			for (std::size_t n = 0; n < work.size(); ++n)
 			{
 				const std::size_t i = (n + t * work.size() / threadCount) % work.size();
@@ -78,9 +70,7 @@ TEST_F(ConcurrencyTest, EightThreadsGetTheSingleThreadedResults)
 		});
 	}
 	for (std::thread& thread : threads)
-	{
 		thread.join();
-	}
 
 	for (int t = 0; t < threadCount; ++t)
 	{
@@ -105,9 +95,7 @@ TEST_F(ConcurrencyTest, WarmUpOfTheReadmeLeavesNoDialableMakerToBuild)
 	}
 	const int makers = ZelDialable::_count;
 	for (const auto& item : work)
-	{
 		convertAll(item.first, item.second);
-	}
 	EXPECT_EQ(makers, ZelDialable::_count);
 }
 

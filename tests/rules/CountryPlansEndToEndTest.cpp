@@ -6,6 +6,7 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "support/ConfigFixture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -129,10 +130,7 @@ TEST_P(CountryPlansEndToEndTest, MakesClid)
 	EXPECT_EQ(GetParam().clidOrigin, clid->getOrigin()->getName());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-	Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), [](const ::testing::TestParamInfo<Trip>& info) {
-		return std::string(info.param.name);
-	});
+INSTANTIATE_TEST_SUITE_P(Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), numbering::test::RowName());
 
 } // namespace
 } // namespace test

@@ -4,6 +4,7 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "support/ConfigFixture.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -26,11 +27,6 @@ struct PhoneCase
 	const char* input;
 	const char* expected;
 };
-
-void PrintTo(const PhoneCase& c, std::ostream* os)
-{
-	*os << c.name;
-}
 
 const Site BOGOTA{"CO", "1", "0"};
 const Site MEXICO_CITY{"MX", "55", "9"};
@@ -79,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(Sites,
 		PhoneCase{"AustraliaMobile", SYDNEY, "+61 4 1234 5678", "00412345678"},
 		PhoneCase{"AustraliaLocalRate", SYDNEY, "1300 123 456", "01300123456"},
 		PhoneCase{"RussiaNineDigits", MOSCOW, "+7 812 123 456", "9812123456"}),
-	[](const ::testing::TestParamInfo<PhoneCase>& info) { return std::string(info.param.name); });
+	numbering::test::RowName());
 
 } // namespace
 } // namespace numbering

@@ -5,6 +5,7 @@
 #include "dialable/ZelDialableManager.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -26,11 +27,6 @@ struct TraceCase
 	std::function<void(ZelNumberingRules*)> call;
 	std::vector<std::string> lines;
 };
-
-void PrintTo(const TraceCase& c, std::ostream* os)
-{
-	*os << c.name;
-}
 
 /// France (trunk prefix 0, area codes dialled) with the instance built before the test switches traces.
 class FacadeTraceLinesTest: public test::ConfigFixture, public ::testing::WithParamInterface<TraceCase>
@@ -108,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(Calls,
 				ZelNumberingRules::getInstance();
 			},
 			{RULES + "Releasing resources", RULES + "ZelNumberingRules()"}}),
-	[](const ::testing::TestParamInfo<TraceCase>& info) { return std::string(info.param.name); });
+	numbering::test::RowName());
 
 } // namespace
 } // namespace numbering

@@ -46,9 +46,7 @@ TEST_F(LifecycleLeakTest, ResetReleasesEverythingTheConversionsBuilt)
 	{
 		SCOPED_TRACE("round " + std::to_string(round));
 		for (const auto& item : work)
-		{
 			convertAll(item.first, item.second);
-		}
 		for (const LiveCount& live : liveCounts)
 		{
 			// Without this the test could pass by building nothing.
@@ -56,9 +54,7 @@ TEST_F(LifecycleLeakTest, ResetReleasesEverythingTheConversionsBuilt)
 		}
 		ZelNumberingRules::resetInstance();
 		for (const LiveCount& live : liveCounts)
-		{
 			EXPECT_EQ(0, live.count) << live.what << " after the reset";
-		}
 	}
 }
 

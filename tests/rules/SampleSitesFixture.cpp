@@ -68,9 +68,7 @@ void SampleSitesFixture::SetUp()
 	ConfigFixture::SetUp();
 	ZelNumberingConfig::setConfigDirectory(NUMBERING_SAMPLE_CONFIG);
 	for (const SiteRow& row : siteRows())
-	{
 		m_Sites.push_back(std::make_unique<ZelDialRulesItem>(row.country, row.extPrefix, 5, row.areaCode, 0, ""));
-	}
 }
 
 void SampleSitesFixture::TearDown()
@@ -85,13 +83,9 @@ std::vector<std::pair<ZelDialRulesItem*, std::string>> SampleSitesFixture::workl
 	for (std::size_t i = 0; i < m_Sites.size(); ++i)
 	{
 		for (const std::string& number : sampleNumbers)
-		{
 			work.emplace_back(m_Sites[i].get(), number);
-		}
 		for (const std::string& number : siteRows()[i].nationalNumbers)
-		{
 			work.emplace_back(m_Sites[i].get(), number);
-		}
 	}
 	return work;
 }
@@ -100,9 +94,7 @@ std::vector<std::string> SampleSitesFixture::siteCountries()
 {
 	std::vector<std::string> countries;
 	for (const SiteRow& row : siteRows())
-	{
 		countries.push_back(row.country);
-	}
 	return countries;
 }
 

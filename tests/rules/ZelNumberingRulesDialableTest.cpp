@@ -3,7 +3,9 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "support/ConfigFixture.h"
+#include "support/FacadeCall.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -14,11 +16,11 @@
 namespace numbering {
 namespace {
 
-/// A site in area 1 of country 34 (which has no numbering plan) with external prefix 0, and what one entry point makes of a number there.
+/// A site in area 1 of Spain (no numbering plan) with external prefix 0, and what one operation makes of a number.
 struct DialCase
 {
 	const char* name;
-	const char* operation;
+	test::Op op;
 	const char* input;
 	const char* expected;
 	int localLength;
@@ -34,40 +36,32 @@ protected:
 		writeFile("dialingrules.properties", "ES=34:00:EF:0F::Spain:P\nGB=44:00:EF:0F::United Kingdom:P\n"
 											 "CO=57:00:EF:0F::Colombia:P\n");
 	}
-
-	static std::string run(ZelDialRulesItem* site, const std::string& operation, const std::string& number)
-	{
-		ZelNumberingRules* rules = ZelNumberingRules::getInstance();
-		if (operation == "dial") return rules->makeDialableNumber(site, number);
-		if (operation == "prefix") return rules->addExternalPrefix(site, number);
-		return rules->makePhoneNumber(site, number);
-	}
 };
 
 TEST_P(ZelNumberingRulesDialableTest, DialsWhatTheExchangeNeeds)
 {
 	const DialCase& c = GetParam();
 	ZelDialRulesItem site("ES", "0", c.localLength, "1", 0, c.exceptionBegin);
-	EXPECT_EQ(c.expected, run(&site, c.operation, c.input));
+	EXPECT_EQ(c.expected, test::callFacade(c.op, &site, c.input));
 }
 
 INSTANTIATE_TEST_SUITE_P(SpanishSite,
 	ZelNumberingRulesDialableTest,
-	::testing::Values(DialCase{"OwnAreaIsLocal", "dial", "+34 (1) 23456789", "23456789", 4, ""},
-		DialCase{"OtherAreaIsLongDistance", "dial", "+34 (4) 12345678", "0412345678", 4, ""},
-		DialCase{"OtherCountryIsInternational", "dial", "+44 (20) 12345678", "00442012345678", 4, ""},
-		DialCase{"TrunkPrefixDroppedAbroad", "dial", "+44 (0) 2012345678", "00442012345678", 4, ""},
-		DialCase{"NoParenthesesIsLongDistance", "dial", "+34 123456789", "0123456789", 4, ""},
-		DialCase{"BlankInPlaceOfPlus", "dial", " 34 (1) 23456789", "23456789", 4, ""},
-		DialCase{"DialledNotCanonical", "dial", "0123", "0123", 4, ""},
-		DialCase{"OutsideNumberGetsPrefix", "prefix", "1234", "01234", 4, ""},
-		DialCase{"ExceptionNumberWithoutPrefix", "prefix", "1234", "1234", 4, "12"},
-		DialCase{"PlusNumberKeepsPrefixEvenWhenShort", "prefix", "+34 (1) 23456789", "023456789", 10, ""},
-		DialCase{"MarkedNumberUntouched", "prefix", " 12***3 ", " 12***3 ", 4, ""},
-		DialCase{"PhoneNumberConvertsDialled", "phone", "01 23 45 67 89", "00123456789", 4, ""},
-		DialCase{"PhoneNumberOnlyCleansServiceCode", "phone", "*12#", "0*12#", 4, ""},
-		DialCase{"PhoneNumberPlusBlank", "phone", " + 34 4 12 34 56 78", "00412345678", 4, ""}),
-	[](const ::testing::TestParamInfo<DialCase>& info) { return std::string(info.param.name); });
+	::testing::Values(DialCase{"OwnAreaIsLocal", test::Op::Dial, "+34 (1) 23456789", "23456789", 4, ""},
+		DialCase{"OtherAreaIsLongDistance", test::Op::Dial, "+34 (4) 12345678", "0412345678", 4, ""},
+		DialCase{"OtherCountryIsInternational", test::Op::Dial, "+44 (20) 12345678", "00442012345678", 4, ""},
+		DialCase{"TrunkPrefixDroppedAbroad", test::Op::Dial, "+44 (0) 2012345678", "00442012345678", 4, ""},
+		DialCase{"NoParenthesesIsLongDistance", test::Op::Dial, "+34 123456789", "0123456789", 4, ""},
+		DialCase{"BlankInPlaceOfPlus", test::Op::Dial, " 34 (1) 23456789", "23456789", 4, ""},
+		DialCase{"DialledNotCanonical", test::Op::Dial, "0123", "0123", 4, ""},
+		DialCase{"OutsideNumberGetsPrefix", test::Op::Prefix, "1234", "01234", 4, ""},
+		DialCase{"ExceptionNumberWithoutPrefix", test::Op::Prefix, "1234", "1234", 4, "12"},
+		DialCase{"PlusNumberKeepsPrefixEvenWhenShort", test::Op::Prefix, "+34 (1) 23456789", "023456789", 10, ""},
+		DialCase{"MarkedNumberUntouched", test::Op::Prefix, " 12***3 ", " 12***3 ", 4, ""},
+		DialCase{"PhoneNumberConvertsDialled", test::Op::Phone, "01 23 45 67 89", "00123456789", 4, ""},
+		DialCase{"PhoneNumberOnlyCleansServiceCode", test::Op::Phone, "*12#", "0*12#", 4, ""},
+		DialCase{"PhoneNumberPlusBlank", test::Op::Phone, " + 34 4 12 34 56 78", "00412345678", 4, ""}),
+	numbering::test::RowName());
 
 using ZelNumberingRulesCanonicalErrorTest = ZelNumberingRulesDialableTest;
 
@@ -79,11 +73,7 @@ TEST_F(ZelNumberingRulesCanonicalErrorTest, QuotesTheTemporaryRecord)
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
 	test::LogCapture::clear();
 	EXPECT_EQ("", rules->makeCanonicalNumber(&site, " + 57 ", "x"));
-	std::vector<std::string> errors;
-	for (const std::string& line : test::LogCapture::lines())
-	{
-		if (line.rfind("ERROR ", 0) == 0) errors.push_back(line);
-	}
+	const std::vector<std::string> errors = test::LogCapture::matching("ERROR ");
 	ASSERT_EQ(1u, errors.size());
 	const std::string& line = errors.front();
 	EXPECT_EQ(

@@ -6,6 +6,7 @@
 #include "dialable/ZelDialableManager.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -53,58 +54,12 @@ TEST_F(ZelNumberingRulesTest, ResetMakesTheNextInstanceReadTheFilesAgain)
 	EXPECT_EQ(std::vector<std::string>{"Frankreich"}, ZelNumberingRules::getInstance()->getCountryList());
 }
 
-/// Cases name their tests by their name.
-template <class Case>
-std::string caseName(const ::testing::TestParamInfo<Case>& info)
-{
-	return info.param.name;
-}
-
-struct CheckCase
-{
-	const char* name;
-	std::string number;
-	std::string expected;
-};
-
-void PrintTo(const CheckCase& c, std::ostream* os)
-{
-	*os << c.name;
-}
-
-class ZelNumberingRulesCheckTest: public ZelNumberingRulesTest, public ::testing::WithParamInterface<CheckCase>
-{
-};
-
-TEST_P(ZelNumberingRulesCheckTest, KeepsDigitsAndKeypadDropsLayoutRejectsTheRest)
-{
-	EXPECT_EQ(GetParam().expected, ZelNumberingRules::getInstance()->checkPhoneNumber(GetParam().number));
-}
-
-INSTANTIATE_TEST_SUITE_P(Numbers,
-	ZelNumberingRulesCheckTest,
-	::testing::Values(CheckCase{"Empty", "", ""},
-		CheckCase{"LayoutCharactersDropped", "(01) 23-45.67", "01234567"},
-		CheckCase{"ServiceCodeKept", "*21#", "*21#"},
-		CheckCase{"UpperCaseKeypadLettersKept", "1A B-C.D", "1ABCD"},
-		CheckCase{"LowerCaseKeypadLetterRejected", "12a3", ""},
-		CheckCase{"OtherLetterRejected", "12x3", ""},
-		CheckCase{"PlusRejected", "+33 1 23", ""},
-		CheckCase{"NulRejected", "12" + std::string(1, '\0') + "3", ""},
-		CheckCase{"HighByteRejected", "12\xe9", ""}),
-	caseName<CheckCase>);
-
 struct PrefixCase
 {
 	const char* name;
 	std::string number;
 	bool expected;
 };
-
-void PrintTo(const PrefixCase& c, std::ostream* os)
-{
-	*os << c.name;
-}
 
 class ZelNumberingRulesPrefixTest: public ZelNumberingRulesTest, public ::testing::WithParamInterface<PrefixCase>
 {
@@ -123,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(Lengths,
 		PrefixCase{"AtLocalLength", "1234", true},
 		PrefixCase{"LongerThanLocalLength", "0612345678", true},
 		PrefixCase{"ExceptionNumber", "18765", false}),
-	caseName<PrefixCase>);
+	numbering::test::RowName());
 
 TEST_F(ZelNumberingRulesTest, NoPrefixWithoutSite)
 {

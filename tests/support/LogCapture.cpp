@@ -62,9 +62,7 @@ std::vector<std::string> LogCapture::matching(const std::string& start, const st
 {
 	std::vector<std::string> result;
 	for (const std::string& line : lines())
-	{
 		if (line.rfind(start, 0) == 0 && line.find(text) != std::string::npos) result.push_back(line);
-	}
 	return result;
 }
 
