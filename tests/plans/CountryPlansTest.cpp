@@ -165,9 +165,7 @@ protected:
 		plan = nullptr;
 		std::vector<std::string> lines;
 		for (const std::string& line : LogCapture::lines())
-		{
 			if (line.find(GetParam().loggerName) != std::string::npos) lines.push_back(line);
-		}
 		return lines;
 	}
 

@@ -5,6 +5,7 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "support/ConfigFixture.h"
+#include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
 #include "Poco/Format.h"
@@ -12,7 +13,7 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -45,59 +46,14 @@ protected:
 	}
 };
 
-template <typename Param>
-std::string caseName(const ::testing::TestParamInfo<Param>& info)
+TEST_F(SampleConfigTest, ResolvesEachPlanCallingCodeToItsMainCountry)
 {
-	return info.param.name;
+	const std::map<std::string, std::string> mainCountries{{"1", "US"}, {"7", "RU"}, {"31", "NL"}, {"32", "BE"},
+		{"33", "FR"}, {"41", "CH"}, {"43", "AT"}, {"44", "GB"}, {"49", "DE"}, {"52", "MX"}, {"54", "AR"}, {"57", "CO"},
+		{"61", "AU"}, {"64", "NZ"}, {"353", "IE"}};
+	for (const auto& [number, country] : mainCountries)
+		EXPECT_EQ(country, rules()->getCountryCodeFromNumber(number)) << number;
 }
-
-/// Every case prints as its name.
-template <typename Param>
-void printName(const Param& param, std::ostream* os)
-{
-	*os << param.name;
-}
-
-struct CallingCode
-{
-	const char* name;
-	const char* number;
-	const char* country;
-};
-
-void PrintTo(const CallingCode& param, std::ostream* os)
-{
-	printName(param, os);
-}
-
-class SampleCallingCodeTest: public SampleConfigTest, public ::testing::WithParamInterface<CallingCode>
-{
-};
-
-TEST_P(SampleCallingCodeTest, ResolvesToItsMainCountry)
-{
-	EXPECT_EQ(GetParam().country, rules()->getCountryCodeFromNumber(GetParam().number));
-}
-
-// The calling codes that have a numbering plan.
-INSTANTIATE_TEST_SUITE_P(PlanCountries,
-	SampleCallingCodeTest,
-	::testing::Values(CallingCode{"NorthAmerica", "1", "US"},
-		CallingCode{"Russia", "7", "RU"},
-		CallingCode{"Netherlands", "31", "NL"},
-		CallingCode{"Belgium", "32", "BE"},
-		CallingCode{"France", "33", "FR"},
-		CallingCode{"Switzerland", "41", "CH"},
-		CallingCode{"Austria", "43", "AT"},
-		CallingCode{"UnitedKingdom", "44", "GB"},
-		CallingCode{"Germany", "49", "DE"},
-		CallingCode{"Mexico", "52", "MX"},
-		CallingCode{"Argentina", "54", "AR"},
-		CallingCode{"Colombia", "57", "CO"},
-		CallingCode{"Australia", "61", "AU"},
-		CallingCode{"NewZealand", "64", "NZ"},
-		CallingCode{"Ireland", "353", "IE"}),
-	caseName<CallingCode>);
 
 TEST_F(SampleConfigTest, NamesEveryCountryWithACallingCode)
 {
@@ -119,11 +75,6 @@ struct Table
 	/// Length of area code and subscriber together for the closed plans, 0 for a 6-digit subscriber number.
 	std::size_t nationalLength;
 };
-
-void PrintTo(const Table& param, std::ostream* os)
-{
-	printName(param, os);
-}
 
 class SampleAreaCodeTableTest: public SampleConfigTest, public ::testing::WithParamInterface<Table>
 {
@@ -181,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(TablePlans,
 		Table{"Argentina", "AR", "54", "11", 300, 10},
 		Table{"Australia", "AU", "61", "2", 4, 9},
 		Table{"Ireland", "IE", "353", "1", 49, 0}),
-	caseName<Table>);
+	numbering::test::RowName());
 
 /// A well-known number of a plan country, dialled at a site in its capital, and the canonical form a person
 /// of that country expects, laid out by the sample mask.
@@ -193,11 +144,6 @@ struct WellKnown
 	const char* dialled;
 	const char* expected;
 };
-
-void PrintTo(const WellKnown& param, std::ostream* os)
-{
-	printName(param, os);
-}
 
 class SampleWellKnownNumberTest: public SampleConfigTest, public ::testing::WithParamInterface<WellKnown>
 {
@@ -239,27 +185,12 @@ INSTANTIATE_TEST_SUITE_P(PlanCountries,
 		WellKnown{"NewZealandMobile", "NZ", "4", "021 123 4567", "+64 (21) 1234567"},
 		WellKnown{"NewZealandFreephone", "NZ", "4", "0800 123 456", "+64 (800) 123456"},
 		WellKnown{"DublinSwitchboard", "IE", "1", "01 234 5678", "+353 (1) 2345678"},
-		WellKnown{"IrishFreephoneStaysDomestic", "IE", "1", "1800 123 456", "1800123456"}),
-	caseName<WellKnown>);
-
-/// Colombian sites dial a carrier code after the prefix: the sample's carriers are recognised and dropped on a
-/// call abroad, and the default carrier 9 is dialled on long-distance calls.
-class SampleColombianOperatorTest: public SampleConfigTest, public ::testing::WithParamInterface<WellKnown>
-{
-};
-
-TEST_P(SampleColombianOperatorTest, RecognisesTheCarrierAfterTheInternationalPrefix)
-{
-	ZelDialRulesItem bogota = site("CO", "1");
-	EXPECT_EQ(GetParam().expected, rules()->makeCanonicalNumber(&bogota, GetParam().dialled, ""));
-}
-
-INSTANTIATE_TEST_SUITE_P(Carriers,
-	SampleColombianOperatorTest,
-	::testing::Values(WellKnown{"Carrier5", "CO", "1", "005 33 1 23 45 67 89", "+33 1 23 45 67 89"},
-		WellKnown{"Carrier7", "CO", "1", "007 33 1 23 45 67 89", "+33 1 23 45 67 89"},
-		WellKnown{"Carrier9", "CO", "1", "009 33 1 23 45 67 89", "+33 1 23 45 67 89"}),
-	caseName<WellKnown>);
+		WellKnown{"IrishFreephoneStaysDomestic", "IE", "1", "1800 123 456", "1800123456"},
+		// Colombian sites dial a carrier code after the prefix: the sample's carriers are dropped on a call abroad.
+		WellKnown{"ColombianCarrier5", "CO", "1", "005 33 1 23 45 67 89", "+33 1 23 45 67 89"},
+		WellKnown{"ColombianCarrier7", "CO", "1", "007 33 1 23 45 67 89", "+33 1 23 45 67 89"},
+		WellKnown{"ColombianCarrier9", "CO", "1", "009 33 1 23 45 67 89", "+33 1 23 45 67 89"}),
+	numbering::test::RowName());
 
 TEST_F(SampleConfigTest, DialsTheDefaultColombianCarrierOnLongDistanceCalls)
 {
