@@ -163,10 +163,7 @@ protected:
 		Poco::AutoPtr<ZelCNP> plan(makePlan(GetParam().country));
 		plan->qap_Country_MakeCanonicalNumber(GetParam().number, &site);
 		plan = nullptr;
-		std::vector<std::string> lines;
-		for (const std::string& line : LogCapture::lines())
-			if (line.find(GetParam().loggerName) != std::string::npos) lines.push_back(line);
-		return lines;
+		return LogCapture::matching("", GetParam().loggerName);
 	}
 
 	std::vector<std::string> expectedLines()

@@ -109,21 +109,11 @@ NZ=64:00:EFG:0FG:G:New Zealand:P
 	}
 };
 
-TEST_P(CountryPlansEndToEndTest, MakesCanonicalNumber)
+TEST_P(CountryPlansEndToEndTest, MakesCanonicalNumberPhoneNumberAndClid)
 {
 	ZelDialRulesItem at = site();
 	EXPECT_EQ(GetParam().canonical, rules()->makeCanonicalNumber(&at, GetParam().input, ""));
-}
-
-TEST_P(CountryPlansEndToEndTest, MakesPhoneNumber)
-{
-	ZelDialRulesItem at = site();
 	EXPECT_EQ(GetParam().dialled, rules()->makePhoneNumber(&at, GetParam().input));
-}
-
-TEST_P(CountryPlansEndToEndTest, MakesClid)
-{
-	ZelDialRulesItem at = site();
 	Poco::AutoPtr<ZelClid> clid(rules()->makeClid(&at, GetParam().input));
 	ASSERT_FALSE(clid.isNull());
 	EXPECT_EQ(GetParam().clidNumber, clid->getNumber());
