@@ -16,9 +16,12 @@ namespace {
 enum class Call
 {
 	Local,
-	LongDist
+	LongDist,
+	International
 };
 
+/// A maker call with the rule under test; an international call dials to countryNumber and may take the trunk
+/// prefix out of the area (areaAfter, "-" for unchanged).
 struct RuleCase
 {
 	const char* name;
@@ -27,31 +30,45 @@ struct RuleCase
 	std::string area;
 	std::string dest;
 	std::string expected;
+	std::string countryNumber = "44";
+	std::string areaAfter = "-";
 };
 
-/// The rule under test goes into the field of the maker called; the other field holds a decoy rule "9F" whose
-/// prefix 9 shows up if a maker reads the wrong rule.
-class ZelDialableRuleTest: public ::testing::TestWithParam<RuleCase>
+/// France, the United Kingdom (trunk prefix 0) and the United States.
+class ZelDialableTest: public test::ConfigFixture, public ::testing::WithParamInterface<RuleCase>
 {
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		writeFile("dialingrules.properties", "FR = 33:00:EF:0F:0F:France:P\n"
+											 "GB = 44:00:EF:0F:F:United Kingdom:P\n"
+											 "US = 1:011:EF:F:G:United States:P\n");
+	}
 };
 
-TEST_P(ZelDialableRuleTest, AppliesOnlyTheLettersOfItsOwnRule)
+/// The rule under test goes into the field of the maker called; the other fields hold decoy rules ("9F", "EF")
+/// whose prefix 9 or country number shows up if a maker reads the wrong rule.
+TEST_P(ZelDialableTest, AppliesOnlyTheLettersOfItsOwnRule)
 {
 	const RuleCase& c = GetParam();
-	const bool local = c.call == Call::Local;
-	ZelCountryRuleItem rule("33", "00", "EF", local ? "9F" : c.rule, local ? c.rule : "9F", "France");
+	ZelCountryRuleItem rule("33", "00", c.call == Call::International ? c.rule : "EF",
+		c.call == Call::LongDist ? c.rule : "9F", c.call == Call::Local ? c.rule : "9F", "France");
 	ZelDialable maker;
+	std::string country = c.countryNumber;
 	std::string area = c.area;
 	std::string dest = c.dest;
-	const std::string result = local ? maker.makeLocalDialableNumber(area, dest, &rule)
-									 : maker.makeLongDistDialableNumber(area, dest, &rule, nullptr);
-	EXPECT_EQ(c.expected, result);
-	EXPECT_EQ(c.area, area);
+	EXPECT_EQ(c.expected, c.call == Call::Local ? maker.makeLocalDialableNumber(area, dest, &rule)
+						  : c.call == Call::LongDist
+							  ? maker.makeLongDistDialableNumber(area, dest, &rule, nullptr)
+							  : maker.makeInternationalDialableNumber(country, area, dest, &rule));
+	EXPECT_EQ(c.areaAfter == "-" ? c.area : c.areaAfter, area);
+	EXPECT_EQ(c.countryNumber, country);
 	EXPECT_EQ(c.dest, dest);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rules,
-	ZelDialableRuleTest,
+	ZelDialableTest,
 	::testing::Values(RuleCase{"LocalEmptyRuleDialsDestAsItIs", Call::Local, "", "1", "23456789", "23456789"},
 		RuleCase{"LocalLowerCaseLettersDoNotCount", Call::Local, "0f", "1", "23456789", "23456789"},
 		RuleCase{"LocalLetterEDoesNotCount", Call::Local, "0E", "1", "23456789", "23456789"},
@@ -64,20 +81,18 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"LocalPrefixLongerThanDest", Call::Local, "00I", "", "0", "00"},
 		RuleCase{"LongDistEmptyRuleDialsDest", Call::LongDist, "", "1", "23456789", "23456789"},
 		RuleCase{"LongDistFAddsAreaAndPrefix", Call::LongDist, "0F", "1", "23456789", "0123456789"},
-		RuleCase{"LongDistIAddsOnlyPrefix", Call::LongDist, "0I", "1", "23456789", "023456789"}),
+		RuleCase{"LongDistIAddsOnlyPrefix", Call::LongDist, "0I", "1", "23456789", "023456789"},
+		RuleCase{"CountryAndArea", Call::International, "EF", "20", "12345678", "00442012345678"},
+		RuleCase{"CountryOnlyLeavesAreaOut", Call::International, "E", "20", "12345678", "004412345678"},
+		RuleCase{"AreaOnly", Call::International, "F", "20", "12345678", "002012345678"},
+		RuleCase{"NeitherLetterDialsPrefixAndDest", Call::International, "I", "20", "12345678", "0012345678"},
+		RuleCase{"LettersFoundAnywhere", Call::International, "XEYF", "20", "12345678", "00442012345678"},
+		RuleCase{
+			"TrunkPrefixAsAreaIsDropped", Call::International, "EF", "0", "2012345678", "00442012345678", "44", ""},
+		RuleCase{"AreaOnlyStartingWithTrunkIsKept", Call::International, "EF", "020", "12345678", "004402012345678"},
+		RuleCase{"UnknownCountryKeepsArea", Call::International, "EF", "0", "12", "00999012", "999"},
+		RuleCase{"TrunkKeptWithoutLetterF", Call::International, "E", "0", "2012345678", "00442012345678"}),
 	numbering::test::RowName());
-
-class ZelDialableTest: public test::ConfigFixture
-{
-protected:
-	void SetUp() override
-	{
-		ConfigFixture::SetUp();
-		writeFile("dialingrules.properties", "FR = 33:00:EF:0F:0F:France:P\n"
-											 "GB = 44:00:EF:0F:F:United Kingdom:P\n"
-											 "US = 1:011:EF:F:G:United States:P\n");
-	} // namespace
-};    // namespace numbering
 
 TEST_F(ZelDialableTest, LongDistWritesItsTraceOnlyWhenTracesAreOn)
 {
@@ -94,48 +109,6 @@ TEST_F(ZelDialableTest, LongDistWritesItsTraceOnlyWhenTracesAreOn)
 		"0123456789"};
 	EXPECT_EQ(expected, LogCapture::lines());
 }
-
-struct InternationalCase
-{
-	const char* name;
-	std::string internatRule;
-	std::string countryNumber;
-	std::string area;
-	std::string dest;
-	std::string expected;
-	std::string areaAfter;
-};
-
-class ZelDialableInternationalTest: public ZelDialableTest, public ::testing::WithParamInterface<InternationalCase>
-{
-};
-
-TEST_P(ZelDialableInternationalTest, DialsPrefixCountryAreaAndDest)
-{
-	const InternationalCase& c = GetParam();
-	ZelCountryRuleItem rule("33", "00", c.internatRule, "0F", "", "France");
-	ZelDialable maker;
-	std::string countryNumber = c.countryNumber;
-	std::string area = c.area;
-	std::string dest = c.dest;
-	EXPECT_EQ(c.expected, maker.makeInternationalDialableNumber(countryNumber, area, dest, &rule));
-	EXPECT_EQ(c.areaAfter, area);
-	EXPECT_EQ(c.countryNumber, countryNumber);
-	EXPECT_EQ(c.dest, dest);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rules,
-	ZelDialableInternationalTest,
-	::testing::Values(InternationalCase{"CountryAndArea", "EF", "44", "20", "12345678", "00442012345678", "20"},
-		InternationalCase{"CountryOnlyLeavesAreaOut", "E", "44", "20", "12345678", "004412345678", "20"},
-		InternationalCase{"AreaOnly", "F", "44", "20", "12345678", "002012345678", "20"},
-		InternationalCase{"NeitherLetterDialsPrefixAndDest", "I", "44", "20", "12345678", "0012345678", "20"},
-		InternationalCase{"LettersFoundAnywhere", "XEYF", "44", "20", "12345678", "00442012345678", "20"},
-		InternationalCase{"TrunkPrefixAsAreaIsDropped", "EF", "44", "0", "2012345678", "00442012345678", ""},
-		InternationalCase{"AreaOnlyStartingWithTrunkIsKept", "EF", "44", "020", "12345678", "004402012345678", "020"},
-		InternationalCase{"UnknownCountryKeepsArea", "EF", "999", "0", "12", "00999012", "0"},
-		InternationalCase{"TrunkKeptWithoutLetterF", "E", "44", "0", "2012345678", "00442012345678", "0"}),
-	numbering::test::RowName());
 
 } // namespace
 } // namespace numbering

@@ -1,9 +1,11 @@
 // CanonicalEndToEndTest.cpp
 
 #include "numbering/ZelClid.h"
+#include "numbering/ZelDialRulesItem.h"
 #include "numbering/ZelEnumOrigin.h"
+#include "numbering/ZelNumberingRules.h"
 
-#include "CanonicalSitesFixture.h"
+#include "support/ConfigFixture.h"
 #include "support/FacadeCall.h"
 #include "support/LogCapture.h"
 #include "support/RowName.h"
@@ -12,17 +14,72 @@
 
 #include <gtest/gtest.h>
 
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+#include <random>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 using numbering::ZelClid;
+using numbering::ZelDialRulesItem;
 using numbering::ZelEnumOrigin;
-using numbering::test::CanonicalSitesFixture;
+using numbering::ZelNumberingRules;
 using numbering::test::LogCapture;
 using numbering::test::Op;
 using numbering::test::RowName;
 
 namespace {
+
+/// Germany, Spain, Italy, Portugal and Colombia, a German mask "+C (A) xxx xxxx", a German area-code table
+/// (30, 89, 221, 7071) and the Colombian carrier codes 5 and 7, and the sites "Berlin" (external prefix 0, local
+/// length 5, area 30, exception numbers 11...), "BerlinDirect" (the same without external prefix), "Madrid",
+/// "Rome", "Lisbon" and "Bogota" (prefix 0, length 5), and "Unconfigured", a default record whose country "FR"
+/// the configuration does not know. Germany and Colombia have plans; Spain (no trunk prefix), Italy (trunk 0)
+/// and Portugal (local and national numbers not told apart) have none. The log is cleared once all is loaded.
+class CanonicalSitesFixture: public numbering::test::ConfigFixture
+{
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		writeFile("dialingrules.properties", R"(DE=49:00:EF:0F::Germany:P
+ES=34:00:EF:::Spain:P
+IT=39:00:EF:0F:F:Italy:P
+PT=351:00:EF:E:F:Portugal:P
+CO=57:00:EF:0F:F:Colombia:P
+)");
+		writeFile("r7731cnp_57.properties", "OP_0000=5\nOP_0001=7\n");
+		writeFile("qap_cnp_mask.properties", "Mask_49_1=+C (A) xxx xxxx\n");
+		writeFile("specific_format_activation.properties", "cnp_49=true\n");
+		writeFile("r7731cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\nAC_0002=221\nAC_0003=7071\n");
+		m_Sites["Berlin"] = std::make_unique<ZelDialRulesItem>("DE", "0", 5, "30", 0, "11");
+		m_Sites["BerlinDirect"] = std::make_unique<ZelDialRulesItem>("DE", "", 5, "30", 0, "11");
+		m_Sites["Madrid"] = std::make_unique<ZelDialRulesItem>("ES", "0", 5, "91", 0, "");
+		m_Sites["Rome"] = std::make_unique<ZelDialRulesItem>("IT", "0", 5, "6", 0, "");
+		m_Sites["Lisbon"] = std::make_unique<ZelDialRulesItem>("PT", "0", 5, "21", 0, "");
+		m_Sites["Bogota"] = std::make_unique<ZelDialRulesItem>("CO", "0", 5, "1", 0, "");
+		m_Sites["Unconfigured"] = std::make_unique<ZelDialRulesItem>();
+		rules();
+		LogCapture::clear();
+	}
+
+	/// The named site, or null for "none".
+	ZelDialRulesItem* site(const std::string& name) const
+	{
+		return name == "none" ? nullptr : m_Sites.at(name).get();
+	}
+
+	static ZelNumberingRules* rules()
+	{
+		return ZelNumberingRules::getInstance();
+	}
+
+private:
+	std::map<std::string, std::unique_ptr<ZelDialRulesItem>> m_Sites;
+};
 
 /// A number as dialled or received at a site, and what an operation makes of it.
 struct Case
@@ -219,5 +276,96 @@ INSTANTIATE_TEST_SUITE_P(Operations,
 		FailureCase{"PhoneNumberEmpty", Op::Phone, "Berlin", "", "'strPhoneNumber' parameter can not be null"},
 		FailureCase{"PrefixNoSite", Op::Prefix, "none", "1234", "'myZelDialRulesItem' parameter can not be null"}),
 	RowName());
+
+/// Inputs that have broken number parsers: lone separators, unbalanced parentheses, NUL and bytes above 127,
+/// long runs.
+std::vector<std::string> adversarialInputs()
+{
+	return {"", "+", "(", ")", "|", " ", "++", "+ ", "()", ")(", "+()", "+(", "+)", "+ (", "+49", "+49 (", "+49 )",
+		"+49 ()", "+49 () ", "+49 (30)", "+49 (30) ", "+49 )30( 1", "(30) 123", "0", "00", "000", "0049", "00 49", "+0",
+		"***", "|||", "|1", "1|", std::string(1, '\0'), std::string("030") + '\0' + "1234567", "\xff\xfe",
+		"+\x80 49 30 1", "*#ABCDabcd", std::string(29, '1'), std::string(30, '1'), std::string(40, '9'),
+		"+" + std::string(40, '4'), "00" + std::string(5000, '4'), std::string(100000, '0'),
+		"+49 (" + std::string(5000, '3') + ") 1", std::string(5000, ' ') + "1", std::string(3000, '('),
+		"+49 (30) " + std::string(3000, ' ')};
+}
+
+/// Random strings built from number fragments and hostile characters, with a fixed seed so that a failure
+/// can be replayed.
+std::vector<std::string> randomInputs(int count)
+{
+	const std::vector<std::string> pieces{"0", "1", "3", "4", "9", "00", "+", " ", "  ", "(", ")", "|", "-", ".", "*",
+		"#", "A", "D", "a", "x", "C", "\xe9", "\x80", std::string(1, '\0'), "***", "0049", "+49 ", "0034", "030", "\t"};
+	std::mt19937 random(20240607);
+	std::uniform_int_distribution<std::size_t> piece(0, pieces.size() - 1);
+	std::uniform_int_distribution<int> length(0, 24);
+	std::vector<std::string> inputs;
+	for (int i = 0; i < count; ++i)
+	{
+		const int pieceCount = i % 100 == 0 ? 600 : length(random);
+		std::string input;
+		for (int p = 0; p < pieceCount; ++p)
+			input += pieces[piece(random)];
+		inputs.push_back(input);
+	}
+	return inputs;
+}
+
+using FacadeRobustnessTest = CanonicalSitesFixture;
+
+TEST_F(FacadeRobustnessTest, SurvivesHostileNumbersAtEverySite)
+{
+	std::vector<std::string> inputs = adversarialInputs();
+	const std::vector<std::string> random = randomInputs(3000);
+	inputs.insert(inputs.end(), random.begin(), random.end());
+	for (const char* name : {"Berlin", "BerlinDirect", "Unconfigured", "none"})
+	{
+		ZelDialRulesItem* item = site(name);
+		for (std::size_t i = 0; i < inputs.size(); ++i)
+		{
+			const std::string& input = inputs[i];
+			const std::string& pattern = inputs[(i * 7 + 3) % inputs.size()];
+			// Half of the calls build their debug lines as well.
+			Logger::m_Traces = i % 2 == 1;
+			// The seed is fixed, so a site and an index replay a failure.
+			SCOPED_TRACE(std::string(name) + " input #" + std::to_string(i));
+			EXPECT_NO_THROW(rules()->makeCanonicalNumber(item, input, ""));
+			EXPECT_NO_THROW(rules()->makeCanonicalNumber(item, input, pattern, true));
+			EXPECT_NO_THROW(rules()->makePhoneNumber(item, input));
+			EXPECT_NO_THROW(rules()->addExternalPrefix(item, input));
+			EXPECT_NO_THROW(rules()->formatCanonicalNumber(input, pattern));
+			EXPECT_NO_THROW(rules()->formatToGSMCanonicalNumber(input));
+			EXPECT_NO_THROW({
+				rules()->checkPhoneNumber(input);
+				rules()->isPrefixNeeded(item, input);
+				rules()->validNumber(input);
+				rules()->extractCountryNumberFromCanonicalNumber(input);
+				rules()->extractAreaCodeOrNatPrefixFromCanonicalNumber(input);
+				rules()->extractExtensionFromCanonicalNumber(input);
+				rules()->getCountryCode(input);
+				rules()->getCountryName(input);
+				rules()->getCountryCodeFromNumber(input);
+			});
+			// The unguarded operations may throw, but only what a host can catch as std::exception; anything
+			// else escapes and fails the test.
+			const std::function<void()> unguarded[] = {
+				[&] { Poco::AutoPtr<ZelClid> clid(rules()->makeClid(item, input)); },
+				[&] { rules()->makeDialableNumber(item, input); },
+				[&] { rules()->makeGSMCanonicalNumber(item, input, i % 3 == 0); },
+				[&] { rules()->generateDefaultCanonicalNumber(input, "DE", pattern); }};
+			for (const std::function<void()>& operation : unguarded)
+			{
+				try
+				{
+					operation();
+				}
+				catch (const std::exception&)
+				{
+				}
+			}
+			LogCapture::clear();
+		}
+	}
+}
 
 } // namespace

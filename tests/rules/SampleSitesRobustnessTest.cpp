@@ -1,0 +1,209 @@
+// SampleSitesRobustnessTest.cpp
+// Conversions from eight threads and the release of everything at reset, on the sample configuration, at a site
+// in every plan country and a few others; run under ThreadSanitizer and LeakSanitizer by scripts/sanitize.sh.
+
+#include "numbering/ZelClid.h"
+#include "numbering/ZelCountryRuleItem.h"
+#include "numbering/ZelEnumOrigin.h"
+#include "numbering/ZelNumberingConfig.h"
+#include "numbering/ZelNumberingRules.h"
+
+#include "dialable/ZelDialable.h"
+#include "dialable/ZelDialableManager.h"
+#include "plans/ZelCNP.h"
+#include "plans/ZelCNPManager.h"
+#include "support/ConfigFixture.h"
+#include "trees/ZelAreaCodeTree.h"
+#include "trees/ZelCharsTreeElement.h"
+
+#include "Poco/AutoPtr.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <exception>
+#include <memory>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace numbering {
+namespace {
+
+struct SiteRow
+{
+	const char* country;
+	const char* extPrefix;
+	const char* areaCode;
+	std::vector<std::string> nationalNumbers;
+};
+
+// The fifteen plan countries, a second country on a shared calling code, and two countries without a plan.
+const std::vector<SiteRow> SITES{{"US", "9", "212", {"212 555 0123", "1 415 555 0123", "011 49 30 1234567"}},
+	{"RU", "9", "495", {"8 495 123 4567", "8 10 49 30 1234567"}}, {"KZ", "9", "727", {"8 727 123 4567"}},
+	{"NL", "0", "20", {"020 123 4567", "06 12345678"}}, {"BE", "0", "2", {"02 123 45 67", "0470 12 34 56"}},
+	{"FR", "0", "1", {"01 23 45 67 89", "06 12 34 56 78"}}, {"CH", "0", "44", {"044 123 45 67", "079 123 45 67"}},
+	{"AT", "0", "1", {"01 234 5678", "0316 123456"}}, {"GB", "9", "20", {"020 7946 0123", "07700 900123"}},
+	{"DE", "0", "30", {"030 1234567", "089 1234567", "0151 12345678"}},
+	{"MX", "0", "55", {"55 1234 5678", "044 55 1234 5678"}}, {"AR", "0", "11", {"011 15 4321 5678", "0221 456 7890"}},
+	{"CO", "0", "1", {"09 1 2345678", "3001234567", "005 49 30 123456"}},
+	{"AU", "0", "2", {"02 9876 5432", "0412 345 678"}}, {"NZ", "0", "9", {"09 123 4567", "021 123 4567"}},
+	{"IE", "9", "1", {"01 234 5678", "087 123 4567"}}, {"ES", "0", "", {"912 345 678"}},
+	{"IT", "0", "", {"06 1234 5678"}}};
+
+// International numbers to every plan country and two others, internal numbers and service codes.
+const std::vector<std::string> SAMPLE_NUMBERS{"+1 212 555 0123", "+7 495 123 4567", "+7 727 123 4567",
+	"+31 20 123 4567", "+32 2 123 45 67", "+33 1 23 45 67 89", "+41 44 123 45 67", "+43 1 234 5678", "+44 20 7946 0123",
+	"+49 30 1234567", "+49 (89) 1234567", "+52 55 1234 5678", "+54 11 4321 5678", "+57 1 234 5678", "+61 2 9876 5432",
+	"+64 9 123 4567", "+353 1 234 5678", "+34 912 345 678", "+39 06 1234 5678", "0049 30 1234567", "1234", "*21#"};
+
+template <typename Call>
+std::string orWhatItThrows(Call call)
+{
+	try
+	{
+		return call();
+	}
+	catch (const std::exception& exception)
+	{
+		return std::string("throws ") + exception.what();
+	}
+}
+
+/// The results of every conversion of number at site, joined by "|"; an exception thrown by an unguarded
+/// operation is part of the result.
+std::string convertAll(ZelDialRulesItem* site, const std::string& number)
+{
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	const std::string canonical = rules->makeCanonicalNumber(site, number, "");
+	const std::string clid = orWhatItThrows([&] {
+		Poco::AutoPtr<ZelClid> made(rules->makeClid(site, number));
+		if (made.isNull()) return std::string("no clid");
+		return made->getNumber() + " " + (made->getOrigin() == nullptr ? "no origin" : made->getOrigin()->getName());
+	});
+	return canonical + "|" + rules->makePhoneNumber(site, number) + "|" + rules->makePhoneNumber(site, canonical) +
+		   "|" + rules->addExternalPrefix(site, number) + "|" +
+		   orWhatItThrows([&] { return rules->makeGSMCanonicalNumber(site, number, true); }) + "|" + clid;
+}
+
+/// Reads the sample configuration of the repository, so that every plan and every table is the real one.
+class SampleSitesTest: public test::ConfigFixture
+{
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		ZelNumberingConfig::setConfigDirectory(NUMBERING_SAMPLE_CONFIG);
+		for (const SiteRow& row : SITES)
+			m_Sites.push_back(std::make_unique<ZelDialRulesItem>(row.country, row.extPrefix, 5, row.areaCode, 0, ""));
+	}
+
+	/// Every site paired with every sample number and with the site's own national numbers.
+	std::vector<std::pair<ZelDialRulesItem*, std::string>> workload()
+	{
+		std::vector<std::pair<ZelDialRulesItem*, std::string>> work;
+		for (std::size_t i = 0; i < m_Sites.size(); ++i)
+		{
+			for (const std::string& number : SAMPLE_NUMBERS)
+				work.emplace_back(m_Sites[i].get(), number);
+			for (const std::string& number : SITES[i].nationalNumbers)
+				work.emplace_back(m_Sites[i].get(), number);
+		}
+		return work;
+	}
+
+	std::vector<std::unique_ptr<ZelDialRulesItem>> m_Sites;
+};
+
+/// Does what the README asks of a host before it goes concurrent: the facade and the plan manager exist and
+/// every country's dialable maker is made. Only the plans of every other site country are built, so that
+/// the threads race to build the others under the plan manager's lock.
+void prepareAsAHost()
+{
+	ZelNumberingRules::getInstance();
+	ZelNumberingConfig* config = ZelNumberingConfig::getInstance();
+	for (const std::string& name : config->getCountryList())
+		ZelDialableManager::getInstance()->getDialable(config->getCountryNumber(config->getCountryCodeFromName(name)));
+	for (std::size_t i = 0; i < SITES.size(); i += 2)
+		ZelCNPManager::getInstance()->getCNP(SITES[i].country);
+}
+
+TEST_F(SampleSitesTest, EightThreadsGetTheSingleThreadedResults)
+{
+	const int threadCount = 8;
+	const std::vector<std::pair<ZelDialRulesItem*, std::string>> work = workload();
+	std::vector<std::string> expected;
+	for (const auto& item : work)
+		expected.push_back(convertAll(item.first, item.second));
+	resetLibrary();
+	prepareAsAHost();
+
+	std::vector<std::vector<std::string>> results(threadCount, std::vector<std::string>(work.size()));
+	std::atomic<int> waiting{threadCount};
+	std::vector<std::thread> threads;
+	for (int t = 0; t < threadCount; ++t)
+	{
+		threads.emplace_back([&, t] {
+			// Start together, each at another place of the work, so that first uses of a plan collide.
+			--waiting;
+			while (waiting > 0)
+				std::this_thread::yield();
+			for (std::size_t n = 0; n < work.size(); ++n)
+			{
+				const std::size_t i = (n + t * work.size() / threadCount) % work.size();
+				results[t][i] = convertAll(work[i].first, work[i].second);
+			}
+		});
+	}
+	for (std::thread& thread : threads)
+		thread.join();
+	for (int t = 0; t < threadCount; ++t)
+	{
+		for (std::size_t i = 0; i < work.size(); ++i)
+		{
+			EXPECT_EQ(expected[i], results[t][i]) << "thread " << t << ", site " << work[i].first->getCountryId()
+												  << ", number '" << work[i].second << "'";
+		}
+	}
+}
+
+// The README's advice to hosts: one makePhoneNumber per configured country before going concurrent.
+TEST_F(SampleSitesTest, WarmUpOfTheReadmeLeavesNoDialableMakerToBuild)
+{
+	const std::vector<std::pair<ZelDialRulesItem*, std::string>> work = workload();
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	ZelNumberingConfig* config = ZelNumberingConfig::getInstance();
+	for (const std::string& name : rules->getCountryList())
+		rules->makePhoneNumber(
+			m_Sites.front().get(), "+" + config->getCountryNumber(rules->getCountryCode(name)) + " 1234567");
+	const int makers = ZelDialable::_count;
+	for (const auto& item : work)
+		convertAll(item.first, item.second);
+	EXPECT_EQ(makers, ZelDialable::_count);
+}
+
+// ZelClid::_count is left out: it counts constructions, not live records. LeakSanitizer watches those, and
+// what the counters do not count.
+TEST_F(SampleSitesTest, ResetReleasesEverythingTheConversionsBuilt)
+{
+	const std::pair<const char*, const int&> liveCounts[] = {{"plans", ZelCNP::_count},
+		{"dialable makers", ZelDialable::_count}, {"country rules", ZelCountryRuleItem::_count},
+		{"area-code trees", ZelAreaCodeTree::_count}, {"tree elements", ZelCharsTreeElement::_count}};
+	const std::vector<std::pair<ZelDialRulesItem*, std::string>> work = workload();
+	for (int round = 0; round < 3; ++round)
+	{
+		SCOPED_TRACE("round " + std::to_string(round));
+		for (const auto& item : work)
+			convertAll(item.first, item.second);
+		// Without this the test could pass by building nothing.
+		for (const auto& [what, count] : liveCounts)
+			EXPECT_LT(0, count) << what << " before the reset";
+		ZelNumberingRules::resetInstance();
+		for (const auto& [what, count] : liveCounts)
+			EXPECT_EQ(0, count) << what << " after the reset";
+	}
+}
+
+} // namespace
+} // namespace numbering
