@@ -5,10 +5,15 @@
 #include "dialable/ZelDialable.h"
 #include "dialable/ZelDialableManager.h"
 #include "support/ConfigFixture.h"
+#include "support/FacadeCall.h"
 #include "support/LogCapture.h"
 #include "support/RowName.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
 
 using numbering::test::LogCapture;
 
@@ -54,35 +59,161 @@ TEST_F(ZelNumberingRulesTest, ResetMakesTheNextInstanceReadTheFilesAgain)
 	EXPECT_EQ(std::vector<std::string>{"Frankreich"}, ZelNumberingRules::getInstance()->getCountryList());
 }
 
-struct PrefixCase
-{
-	const char* name;
-	std::string number;
-	bool expected;
-};
-
-class ZelNumberingRulesPrefixTest: public ZelNumberingRulesTest, public ::testing::WithParamInterface<PrefixCase>
-{
-};
-
-TEST_P(ZelNumberingRulesPrefixTest, WantedFromTheLocalLengthOnUnlessException)
+TEST_F(ZelNumberingRulesTest, PrefixWantedFromTheLocalLengthOnUnlessExceptionNumberOrNoSite)
 {
 	ZelDialRulesItem site("FR", "0", 4, "1", 0, "18");
-	EXPECT_EQ(GetParam().expected, ZelNumberingRules::getInstance()->isPrefixNeeded(&site, GetParam().number));
+	const std::pair<const char*, bool> numbers[] = {
+		{"", false}, {"123", false}, {"1234", true}, {"0612345678", true}, {"18765", false}};
+	for (const auto& [number, wanted] : numbers)
+		EXPECT_EQ(wanted, ZelNumberingRules::getInstance()->isPrefixNeeded(&site, number)) << number;
+	EXPECT_FALSE(ZelNumberingRules::getInstance()->isPrefixNeeded(nullptr, "0612345678"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Lengths,
-	ZelNumberingRulesPrefixTest,
-	::testing::Values(PrefixCase{"Empty", "", false},
-		PrefixCase{"OneShorterThanLocalLength", "123", false},
-		PrefixCase{"AtLocalLength", "1234", true},
-		PrefixCase{"LongerThanLocalLength", "0612345678", true},
-		PrefixCase{"ExceptionNumber", "18765", false}),
+const std::string RULES = "DEBUG N9numbering17ZelNumberingRulesE - ";
+const std::string MAKERS = "DEBUG N9numbering18ZelDialableManagerE - ";
+const std::string SITE = "DEBUG N9numbering16ZelDialRulesItemE - ";
+
+/// One facade or maker-cache call and the debug lines it must write, in order, when traces are on.
+struct TraceCase
+{
+	const char* name;
+	std::function<void(ZelNumberingRules*)> call;
+	std::vector<std::string> lines;
+};
+
+class FacadeTraceLinesTest: public ZelNumberingRulesTest, public ::testing::WithParamInterface<TraceCase>
+{
+};
+
+/// Only the lines of the facade, the maker cache and the site record count: the configuration and plans have
+/// tests of their own. The instance is built before traces are switched on.
+TEST_P(FacadeTraceLinesTest, WritesItsDebugLinesOnlyWhenTracesAreOn)
+{
+	const auto ownLines = [] {
+		std::vector<std::string> own;
+		for (const std::string& line : LogCapture::lines())
+		{
+			for (const char* logger : {" N9numbering17ZelNumberingRulesE ", " N9numbering18ZelDialableManagerE ",
+					 " N9numbering16ZelDialRulesItemE "})
+				if (line.find(logger) != std::string::npos) own.push_back(line);
+		}
+		return own;
+	};
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	LogCapture::clear();
+	GetParam().call(rules);
+	EXPECT_EQ(std::vector<std::string>(), ownLines());
+	Logger::m_Traces = true;
+	LogCapture::clear();
+	GetParam().call(ZelNumberingRules::getInstance());
+	EXPECT_EQ(GetParam().lines, ownLines());
+}
+
+INSTANTIATE_TEST_SUITE_P(Calls,
+	FacadeTraceLinesTest,
+	::testing::Values(TraceCase{"RejectedNumberCheck", [](ZelNumberingRules* r) { r->checkPhoneNumber("01 2x"); },
+						  {RULES + "checkPhoneNumber('01 2x') returns ''"}},
+		TraceCase{"PrefixDecisionAsksOnlyForExceptions",
+			[](ZelNumberingRules* r) {
+				ZelDialRulesItem site("FR", "0", 4, "1", 0, "18");
+				r->isPrefixNeeded(&site, "12345");
+			},
+			{SITE + "isExceptionNumber('12345')=false"}},
+		TraceCase{"LayoutByPattern", [](ZelNumberingRules* r) { r->formatCanonicalNumber("+33 (1) 23", "C"); },
+			{RULES + "formatCanonicalNumber('+33 (1) 23', 'C')"}},
+		TraceCase{"LayoutWithoutParentheses", [](ZelNumberingRules* r) { r->formatCanonicalNumber("+33 123", ""); },
+			{RULES + "formatCanonicalNumber('+33 123', '')", RULES + "Can't apply pattern to number : '+33 123'"}},
+		TraceCase{"CompactFormWithoutParentheses",
+			[](ZelNumberingRules* r) { r->formatToGSMCanonicalNumber("+33 123"); },
+			{RULES + "formatToGSMCanonicalNumber('+33 123'", RULES + "Can't apply pattern to number : '+33 123'"}},
+		TraceCase{"CompactFormOfServiceCode",
+			[](ZelNumberingRules* r) { r->formatToGSMCanonicalNumber("+33 (1) ***"); },
+			{RULES + "formatToGSMCanonicalNumber('+33 (1) ***'"}},
+		TraceCase{"DefaultCanonicalNumberOfUnknownCountry",
+			[](ZelNumberingRules* r) { r->generateDefaultCanonicalNumber("0123", "ZZ", "1"); },
+			{RULES + "generateDefaultCanonicalNumber('0123', 'ZZ', '1')",
+				RULES + "generateDefaultCanonicalNumber result : ''"}},
+		TraceCase{"MakerCacheFirstUse",
+			[](ZelNumberingRules*) {
+				ZelDialableManager::resetInstance();
+				ZelDialableManager::getInstance()->getDialable("44");
+			},
+			{MAKERS + "getInstance()", MAKERS + "getDialable('44')", MAKERS + "loadDialableClass('44')"}},
+		TraceCase{"ResetAndRebuild",
+			[](ZelNumberingRules*) {
+				ZelNumberingRules::resetInstance();
+				ZelNumberingRules::getInstance();
+			},
+			{RULES + "Releasing resources", RULES + "ZelNumberingRules()"}}),
 	numbering::test::RowName());
 
-TEST_F(ZelNumberingRulesTest, NoPrefixWithoutSite)
+/// A site in area 1 of Spain (no numbering plan) with external prefix 0, and what one operation makes of a number.
+struct DialCase
 {
-	EXPECT_FALSE(ZelNumberingRules::getInstance()->isPrefixNeeded(nullptr, "0612345678"));
+	const char* name;
+	test::Op op;
+	const char* input;
+	const char* expected;
+	int localLength;
+	const char* exceptionBegin;
+};
+
+class ZelNumberingRulesDialableTest: public test::ConfigFixture, public ::testing::WithParamInterface<DialCase>
+{
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		writeFile("dialingrules.properties", "ES=34:00:EF:0F::Spain:P\nGB=44:00:EF:0F::United Kingdom:P\n"
+											 "CO=57:00:EF:0F::Colombia:P\n");
+	}
+};
+
+TEST_P(ZelNumberingRulesDialableTest, DialsWhatTheExchangeNeeds)
+{
+	const DialCase& c = GetParam();
+	ZelDialRulesItem site("ES", "0", c.localLength, "1", 0, c.exceptionBegin);
+	EXPECT_EQ(c.expected, test::callFacade(c.op, &site, c.input));
+}
+
+INSTANTIATE_TEST_SUITE_P(SpanishSite,
+	ZelNumberingRulesDialableTest,
+	::testing::Values(DialCase{"OwnAreaIsLocal", test::Op::Dial, "+34 (1) 23456789", "23456789", 4, ""},
+		DialCase{"OtherAreaIsLongDistance", test::Op::Dial, "+34 (4) 12345678", "0412345678", 4, ""},
+		DialCase{"OtherCountryIsInternational", test::Op::Dial, "+44 (20) 12345678", "00442012345678", 4, ""},
+		DialCase{"TrunkPrefixDroppedAbroad", test::Op::Dial, "+44 (0) 2012345678", "00442012345678", 4, ""},
+		DialCase{"NoParenthesesIsLongDistance", test::Op::Dial, "+34 123456789", "0123456789", 4, ""},
+		DialCase{"BlankInPlaceOfPlus", test::Op::Dial, " 34 (1) 23456789", "23456789", 4, ""},
+		DialCase{"DialledNotCanonical", test::Op::Dial, "0123", "0123", 4, ""},
+		DialCase{"OutsideNumberGetsPrefix", test::Op::Prefix, "1234", "01234", 4, ""},
+		DialCase{"ExceptionNumberWithoutPrefix", test::Op::Prefix, "1234", "1234", 4, "12"},
+		DialCase{"PlusNumberKeepsPrefixEvenWhenShort", test::Op::Prefix, "+34 (1) 23456789", "023456789", 10, ""},
+		DialCase{"MarkedNumberUntouched", test::Op::Prefix, " 12***3 ", " 12***3 ", 4, ""},
+		DialCase{"PhoneNumberConvertsDialled", test::Op::Phone, "01 23 45 67 89", "00123456789", 4, ""},
+		DialCase{"PhoneNumberOnlyCleansServiceCode", test::Op::Phone, "*12#", "0*12#", 4, ""},
+		DialCase{"PhoneNumberPlusBlank", test::Op::Phone, " + 34 4 12 34 56 78", "00412345678", 4, ""}),
+	numbering::test::RowName());
+
+using ZelNumberingRulesCanonicalErrorTest = ZelNumberingRulesDialableTest;
+
+/// A failure after the destination country was found quotes the trimmed number and that country's temporary
+/// record, not the caller's site.
+TEST_F(ZelNumberingRulesCanonicalErrorTest, QuotesTheTemporaryRecord)
+{
+	ZelDialRulesItem site("ES", "0", 4, "1", 0, "");
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	test::LogCapture::clear();
+	EXPECT_EQ("", rules->makeCanonicalNumber(&site, " + 57 ", "x"));
+	const std::vector<std::string> errors = test::LogCapture::matching("ERROR ");
+	ASSERT_EQ(1u, errors.size());
+	const std::string& line = errors.front();
+	EXPECT_EQ(
+		0u, line.find("ERROR N9numbering17ZelNumberingRulesE - ZelNumberingRules::makeCanonicalNumber exception: "))
+		<< line;
+	const std::string tail =
+		" - PhoneNumber: '+57', Pattern: 'x'\n  DialRules: CountryCode : 'CO', External Prefix : '', "
+		"Local length : 0, AreaCode : '', m_areaCodesList : , Except length : 0, Except begin : ''";
+	EXPECT_EQ(tail, line.substr(line.size() - std::min(line.size(), tail.size())));
 }
 
 } // namespace
