@@ -26,10 +26,10 @@ struct Runs
 	{
 	}
 
-	/// Without digits after the area run there is no subscriber part to set the area apart from.
-	bool hasRest() const
+	/// A separator after the area run closes the area, even when no subscriber digits follow it.
+	bool hasClosedArea() const
 	{
-		return areaBegin < end && restBegin < end;
+		return areaEnd < end;
 	}
 
 	std::string::size_type end;
@@ -47,13 +47,14 @@ bool isLaidOut(const std::string& text, const Runs& runs)
 		   text.find(' ', runs.restBegin) == std::string::npos;
 }
 
-/// "+C (A) rest" with the blanks of rest dropped, "+C A" without a rest, "+C" without an area.
+/// "+C (A) rest" with the blanks of rest dropped (rest may be empty), "+C A" when the area digits run to the end,
+/// "+C" without an area.
 std::string layOut(const std::string& text, const Runs& runs)
 {
 	std::string built;
 	built.reserve(runs.end + VALID_LAYOUT_EXTRA);
 	built.append(text, 0, runs.countryEnd);
-	if (runs.hasRest())
+	if (runs.hasClosedArea())
 	{
 		built.append(" (").append(text, runs.areaBegin, runs.areaEnd - runs.areaBegin).append(") ");
 		for (std::string::size_type i = runs.restBegin; i < runs.end; ++i)
@@ -82,13 +83,13 @@ std::string ZelNumberingRules::validNumber(std::string number)
 	if (result.size() >= 2 && result[0] == '+')
 	{
 		const Runs runs(result);
-		if (runs.hasRest() && traces)
+		if (runs.hasClosedArea() && traces)
 		{
 			logger->debug("ValidNumber CountryCode + AreaCode : " + result.substr(0, runs.countryEnd) + " (" +
 						  result.substr(runs.areaBegin, runs.areaEnd - runs.areaBegin) + ") ");
 		}
 		// A number already in the layout, as every canonical number is, is kept without being rebuilt.
-		if (!runs.hasRest() || !isLaidOut(result, runs))
+		if (!runs.hasClosedArea() || !isLaidOut(result, runs))
 		{
 			result = layOut(result, runs);
 		}
