@@ -18,12 +18,11 @@
 #include <algorithm>
 #include <filesystem>
 
-using numbering::ZelNumberingConfig;
-using numbering::test::LogCapture;
-using ActivationCase = std::tuple<std::string, std::string, bool>;
 using numbering::ZelCountryRuleItem;
 using numbering::ZelDialRulesItem;
+using numbering::ZelNumberingConfig;
 using numbering::ZelUnsupportedCountryException;
+using numbering::test::LogCapture;
 using numbering::test::thrownMessage;
 
 namespace {
