@@ -1,6 +1,7 @@
 // ZelDialableVariantsTest.cpp
 
 #include "dialable/ZelDialableFactory.h"
+#include "dialable/ZelDialable_57.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
 #include "support/RowName.h"
@@ -9,12 +10,181 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
+#include <stdexcept>
+#include <vector>
 
 using numbering::test::LogCapture;
 
 namespace numbering {
 namespace {
+
+const char* const A_DIRECTORY = "(a directory)";
+const std::string DEBUG_LINE = "DEBUG N9numbering14ZelDialable_57E - ";
+const std::string INFO_LINE = "INFO N9numbering14ZelDialable_57E - ";
+
+/// Traces on and France (trunk prefix 0) configured; the long-distance rule record has the trunk prefix 0.
+class ZelDialable57Test: public test::ConfigFixture
+{
+protected:
+	void SetUp() override
+	{
+		ConfigFixture::SetUp();
+		writeFile("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n");
+		Logger::m_Traces = true;
+	}
+
+	/// Writes a plan file, or puts a directory in its place for A_DIRECTORY; nullptr leaves it missing.
+	void place(const char* name, const char* content)
+	{
+		if (content == A_DIRECTORY)
+			std::filesystem::create_directory(configDir() + name);
+		else if (content)
+			writeFile(name, content);
+	}
+
+	ZelCountryRuleItem m_Rule{"57", "00", "EF", "0F", "", "Colombia"};
+};
+
+struct LoadingCase
+{
+	const char* name;
+	const char* siteFile;
+	const char* defaultFile;
+	std::string fixedLine; // what area 1 and number 2345678 dial as long distance
+	std::vector<std::string> known;
+	std::vector<std::string> unknown;
+	std::string info;
+	std::string endOfList;
+};
+
+class ZelDialable57LoadingTest: public ZelDialable57Test, public ::testing::WithParamInterface<LoadingCase>
+{
+};
+
+TEST_P(ZelDialable57LoadingTest, ReadsOperatorCodeAndPrefixesUpToTheFirstFailure)
+{
+	const LoadingCase& c = GetParam();
+	place("r7731cnp_57.properties", c.siteFile);
+	place("r7731cnp_57_default.properties", c.defaultFile);
+	ZelDialable_57 maker;
+	std::string area = "1";
+	std::string dest = "2345678";
+	EXPECT_EQ(c.fixedLine, maker.makeLongDistDialableNumber(area, dest, &m_Rule, nullptr));
+	for (const std::string& prefix : c.known)
+		EXPECT_EQ(prefix, maker.extractOperatorPrefix(prefix));
+	for (const std::string& prefix : c.unknown)
+		EXPECT_EQ("", maker.extractOperatorPrefix(prefix));
+	EXPECT_EQ(c.info.empty() ? 0 : 1, LogCapture::count(INFO_LINE));
+	EXPECT_EQ(c.info.empty() ? 0 : 1, LogCapture::count(INFO_LINE + c.info));
+	EXPECT_EQ(1, LogCapture::count(DEBUG_LINE + "ZelDialable_57()"));
+	EXPECT_EQ(1, LogCapture::count(DEBUG_LINE + "ZelDialable_57 : " + c.endOfList));
+}
+
+const char* const FALLBACK = "OP_DEFAULT = 5\nOP_0000 = 07\n";
+const char* const NO_SITE_FILE = "No specific configuration file for Colombia";
+
+INSTANTIATE_TEST_SUITE_P(PlanFiles,
+	ZelDialable57LoadingTest,
+	::testing::Values(
+		LoadingCase{"SiteFileHidesDefaultFile", "OP_DEFAULT = 7\nOP_0000 = 456\nOP_0001 = 45\nOP_0002 = 5-x\n",
+			FALLBACK, "0712345678", {"456", "5"}, {"45", "07"}, "", "Not found"},
+		LoadingCase{
+			"DefaultFileWithoutSiteFile", nullptr, FALLBACK, "0512345678", {"07"}, {}, NO_SITE_FILE, "Not found"},
+		LoadingCase{"NoFileAtAll", nullptr, nullptr, "0912345678", {}, {"07"}, NO_SITE_FILE, "File not found"},
+		LoadingCase{"SiteFileIsADirectory", A_DIRECTORY, FALLBACK, "0512345678", {"07"}, {},
+			"No specific dialing rules configuration file", "Not found"},
+		LoadingCase{
+			"GapEndsTheList", "OP_0000 = 456\nOP_0002 = 5\n", FALLBACK, "0912345678", {"456"}, {"5"}, "", "Not found"},
+		LoadingCase{"ValueWithoutDigitsEndsTheList", "OP_0000 = 456\nOP_0001 = none\nOP_0002 = 5\n", nullptr,
+			"0912345678", {"456"}, {"5"}, "", "strDigits empty"}),
+	numbering::test::RowName());
+
+struct PrefixCase
+{
+	const char* name;
+	std::string number;
+	std::string expected;
+	std::vector<std::string> lines;
+};
+
+class ZelDialable57PrefixTest: public ZelDialable57Test, public ::testing::WithParamInterface<PrefixCase>
+{
+};
+
+TEST_P(ZelDialable57PrefixTest, ExtractsTheLongestKnownOperatorPrefix)
+{
+	const PrefixCase& c = GetParam();
+	writeFile("r7731cnp_57.properties", "OP_0000 = 45\nOP_0001 = 456\n");
+	ZelDialable_57 maker;
+	LogCapture::clear();
+	EXPECT_EQ(c.expected, maker.extractOperatorPrefix(c.number));
+	EXPECT_EQ(c.lines, LogCapture::lines());
+}
+
+INSTANTIATE_TEST_SUITE_P(Numbers,
+	ZelDialable57PrefixTest,
+	::testing::Values(PrefixCase{"WholePrefix", "456", "456", {DEBUG_LINE + "'456' is an Colombian operator prefix"}},
+		PrefixCase{"NumberBehindPrefix", "4561234", "456",
+			{DEBUG_LINE + "'4561234' isn't an Colombian operator prefix, but begins with '456' which is an "
+						  "Colombian operator prefix"}},
+		PrefixCase{"PartOfPrefix", "4", "", {}},
+		PrefixCase{"NotDigits", std::string("4\0\xff", 3), "", {}}),
+	numbering::test::RowName());
+
+struct DialCase
+{
+	const char* name;
+	std::string internatRule;
+	std::string countryNumber;
+	std::string area;
+	std::string dest;
+	std::string expected;
+	std::string areaAfter;
+};
+
+/// Operator code 4, so that the code read from the plan file shows in every number.
+class ZelDialable57DialTest: public ZelDialable57Test, public ::testing::WithParamInterface<DialCase>
+{
+protected:
+	void SetUp() override
+	{
+		ZelDialable57Test::SetUp();
+		writeFile("r7731cnp_57.properties", "OP_DEFAULT = 4\n");
+	}
+};
+
+TEST_P(ZelDialable57DialTest, DialsTheOperatorCodeAbroad)
+{
+	const DialCase& c = GetParam();
+	ZelDialable_57 maker;
+	ZelCountryRuleItem rule("57", "00", c.internatRule, "0F", "", "Colombia");
+	std::string country = c.countryNumber;
+	std::string area = c.area;
+	std::string dest = c.dest;
+	EXPECT_EQ(c.expected, maker.makeInternationalDialableNumber(country, area, dest, &rule));
+	EXPECT_EQ(c.areaAfter, area);
+}
+
+// The subscriber number stands where other countries dial the country number, so rule E dials it twice.
+INSTANTIATE_TEST_SUITE_P(International,
+	ZelDialable57DialTest,
+	::testing::Values(DialCase{"SubscriberInPlaceOfCountry", "E", "33", "1", "23456789", "0042345678923456789", "1"},
+		DialCase{"AreaPart", "F", "33", "1", "23456789", "004123456789", "1"},
+		DialCase{"SubscriberAndAreaPart", "EF", "33", "1", "23456789", "00423456789123456789", "1"},
+		DialCase{"TrunkPrefixDropped", "F", "33", "0", "23456789", "00423456789", ""},
+		DialCase{"TrunkPrefixOfUnknownCountryKept", "F", "999", "0", "23456789", "004023456789", "0"}),
+	numbering::test::RowName());
+
+TEST_F(ZelDialable57DialTest, LongDistanceDialsTheMobileDigitInPlaceOfTheOperatorCode)
+{
+	ZelDialable_57 maker;
+	std::string area;
+	std::string dest = "3001234567";
+	EXPECT_EQ("033001234567", maker.makeLongDistDialableNumber(area, dest, &m_Rule, nullptr));
+	EXPECT_THROW(maker.makeLongDistDialableNumber(area, area, &m_Rule, nullptr), std::out_of_range);
+}
 
 struct LongDistCase
 {
