@@ -1,0 +1,306 @@
+// MorePlansTest.cpp
+
+#include "numbering/ZelNumberingConfig.h"
+
+#include "dialable/ZelDialable_54.h"
+#include "plans/MorePlansFixture.h"
+#include "plans/ZelCNPFactory.h"
+#include "plans/ZelCNP_54.h"
+#include "support/LogCapture.h"
+#include "support/RowName.h"
+
+#include "Poco/AutoPtr.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace numbering {
+namespace test {
+namespace {
+
+const SiteSetup NL20{"NL", "20", "0"};
+const SiteSetup AT1EXT9{"AT", "1", "9"};
+const SiteSetup AT1{"AT", "1", "0"};
+const SiteSetup GB20{"GB", "20", "9"};
+const SiteSetup IE1{"IE", "1", "9"};
+const SiteSetup MX55{"MX", "55", "9"};
+const SiteSetup MX{"MX", "", ""};
+
+// Plan-level rows that the end-to-end worked examples cannot reach: numbers the facade never hands over as
+// they stand. A site without external prefix or area code stands for the record of an international number.
+const PlanRow PLAN_ONLY[] = {
+	{"NlExtPrefixAndNational", NL20, "00201234567", "+31 (20) 1234567"},
+	{"NlTooShort", NL20, "02", "02"},
+	{"AtExtPrefixAndNational", AT1, "00158800", "+43 (1) 58800"},
+	{"AtTwoSubscriberDigitsKeepCountry", AT1EXT9, "0223612", "+43 (0) 223612"},
+	{"GbNineDigitLondon", GB20, "0207946012", "+44 (20) 7946012"},
+	{"IeLocalOfFourDigits", IE1, "2345", "2345"},
+	{"MxOneDigitShortKeepsCountry", MX, "01551234567", "+52 551234567"},
+	{"MxExtPrefixAndOneDigitShort", MX55, "901551234567", "+52 551234567"},
+	{"MxNationalNumberBeginningWithOneKeepsCountry", MX55, "011234567890", "+52 1234567890"},
+	{"MxTooShort", MX55, "123456", "123456"},
+};
+
+const std::map<std::string, std::string> CALLING_CODES{
+	{"NL", "31"}, {"AT", "43"}, {"GB", "44"}, {"IE", "353"}, {"MX", "52"}};
+
+class TrunkPrefixPlansTest: public MorePlanTest
+{
+};
+
+TEST_P(TrunkPrefixPlansTest, MakesCanonicalNumber)
+{
+	EXPECT_EQ(GetParam().canonical, canonical(CALLING_CODES.at(GetParam().site.country)));
+}
+
+INSTANTIATE_TEST_SUITE_P(PlanOnly, TrunkPrefixPlansTest, ::testing::ValuesIn(PLAN_ONLY), RowName());
+
+class TrunkPrefixPlanTracesTest: public MorePlansFixture
+{
+protected:
+	/// The plan's result for number at site, with traces on and only the conversion's lines captured.
+	std::string traced(const SiteSetup& setup, const char* callingCode, const std::string& number)
+	{
+		configure(Setting::Sample);
+		const std::unique_ptr<ZelDialRulesItem> site = makeSite(setup);
+		Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(callingCode));
+		Logger::m_Traces = true;
+		LogCapture::clear();
+		return plan->qap_Country_MakeCanonicalNumber(number, site.get());
+	}
+};
+
+TEST_F(TrunkPrefixPlanTracesTest, IrishPlanTracesTableAndResult)
+{
+	traced(IE1, "353", "012345678");
+	const std::vector<std::string> expected{
+		"qap_Country_MakeCanonicalNumber('012345678', '" + makeSite(IE1)->ToString() + "')",
+		"'12345678' isn't an area code, but begins with '1' which is an area code",
+		"QapCountryMakeCanonicalNumber returns '+353 (1) 2345678'"};
+	EXPECT_EQ(expected, LogCapture::messages());
+}
+
+TEST_F(TrunkPrefixPlanTracesTest, UnknownCodeIsTracedBeforeTheZeroForm)
+{
+	EXPECT_EQ("+31 (0) 612345678", traced(NL20, "31", "0612345678"));
+	EXPECT_EQ(1, LogCapture::count("DEBUG N9numbering9ZelCNP_31E - '612345678' doesn't begin with a known area code"));
+}
+
+const char* const NO_FILE = "No specific dialing rules configuration file";
+
+/// The info lines of a table plan built without its files: the first when the country file is missing, the
+/// second when the default file is missing too.
+struct ConstructionRow
+{
+	const char* callingCode;
+	const char* noCountryFile;
+	const char* noDefaultFile = NO_FILE;
+};
+
+const ConstructionRow CONSTRUCTIONS[] = {
+	{"31", "No specific configuration file for Netherlands"},
+	{"32", "No specific configuration file for Belgium"},
+	{"43", "No specific configuration file for Austria"},
+	{"44", ""},
+	{"353", "No specific dialing rules configuration for Ireland",
+		"No specific dialing rules configuration for Irelandd"},
+	{"61", "No specific configuration file for Australia"},
+	{"54", "No specific configuration file for Argentina"},
+};
+
+class TablePlanConstructionTest: public MorePlansFixture, public ::testing::WithParamInterface<ConstructionRow>
+{
+protected:
+	/// The info lines written while the plan is built.
+	std::vector<std::string> infoLines()
+	{
+		LogCapture::clear();
+		Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(GetParam().callingCode));
+		return LogCapture::matching("INFO ");
+	}
+
+	std::vector<std::string> expectedLines(bool defaultFileMissing)
+	{
+		const ConstructionRow& row = GetParam();
+		const std::string className = std::string("ZelCNP_") + row.callingCode;
+		const std::string head = "INFO N9numbering" + std::to_string(className.size()) + className + "E - ";
+		std::vector<std::string> result;
+		if (*row.noCountryFile != '\0') result.push_back(head + row.noCountryFile);
+		if (defaultFileMissing) result.push_back(head + row.noDefaultFile);
+		return result;
+	}
+};
+
+TEST_P(TablePlanConstructionTest, NamesBothMissingFiles)
+{
+	EXPECT_EQ(expectedLines(true), infoLines());
+}
+
+TEST_P(TablePlanConstructionTest, NamesOnlyTheCountryFileWhenTheDefaultOpens)
+{
+	writeFile(std::string("r7731cnp_") + GetParam().callingCode + "_default.properties", "Translate=1\n");
+	EXPECT_EQ(expectedLines(false), infoLines());
+}
+
+INSTANTIATE_TEST_SUITE_P(TablePlans,
+	TablePlanConstructionTest,
+	::testing::ValuesIn(CONSTRUCTIONS),
+	[](const ::testing::TestParamInfo<ConstructionRow>& info) { return std::string("Plan") + info.param.callingCode; });
+
+/// A split: the number, the site (null when "area" is ""), the record's text or "" for none, and the debug
+/// lines after "stripNbr('...')".
+struct StripRow
+{
+	const char* name;
+	const char* full;
+	const char* siteArea;
+	const char* record;
+	std::vector<std::string> lines;
+};
+
+const std::string NATIONAL = "number starts with national prefix:";
+
+const StripRow STRIPS[] = {
+	{"InternationalMobile", "91123456789", "351", "areaCode : '11', number : '23456789', mobile : true",
+		{"Mobile international prefix is found:91123456789", "Area code is found:11"}},
+	{"National", "1143211234", "11", "areaCode : '11', number : '43211234', mobile : false", {"Area code is found:11"}},
+	{"LocalMobile", "1523456789", "11", "areaCode : '11', number : '23456789', mobile : true",
+		{"number starts with local mobile prefix:1523456789"}},
+	{"Local", "43211234", "11", "areaCode : '11', number : '43211234', mobile : false", {"Only local number"}},
+	{"NationalMobile", "0111523456789", "", "areaCode : '11', number : '23456789', mobile : true",
+		{NATIONAL + "0111523456789", "Area code is found:11", "Mobile national prefix is found:1523456789"}},
+	{"NationalMobileOfThreeDigitArea", "0223154234567", "", "areaCode : '223', number : '4234567', mobile : true",
+		{NATIONAL + "0223154234567", "Area code is found:223", "Mobile national prefix is found:154234567"}},
+	{"MobileMarkWithoutArea", "99991234567", "", "",
+		{"Mobile international prefix is found:99991234567",
+			"No area code found but prefix mobile international found before: bad format"}},
+	{"SubscriberTooShort", "0114321123", "", "", {NATIONAL + "0114321123", "Area code is found:11"}},
+	{"TooShort", "01", "11", "", {}},
+	{"UnknownAreaWithoutMobileMark", "0491234567", "", "", {NATIONAL + "0491234567"}},
+};
+
+class ZelCNP54StripTest: public MorePlansFixture, public ::testing::WithParamInterface<StripRow>
+{
+};
+
+TEST_P(ZelCNP54StripTest, SplitsAndTracesTheNumber)
+{
+	const StripRow& row = GetParam();
+	configure(Setting::Sample);
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
+	Poco::AutoPtr<ZelCNP_54> plan(new ZelCNP_54());
+	Logger::m_Traces = true;
+	LogCapture::clear();
+	const std::unique_ptr<ZelStrippedNbr> stripped = plan->StripNbr(row.full, *row.siteArea ? site.get() : nullptr);
+
+	std::vector<std::string> expected{"stripNbr('" + std::string(row.full) + "')"};
+	expected.insert(expected.end(), row.lines.begin(), row.lines.end());
+	expected.push_back(*row.record ? "Argentina stripNumber returns " + std::string(row.record)
+								   : "Argentina StripNumber returns null");
+	std::vector<std::string> actual;
+	for (const std::string& line : LogCapture::lines())
+		actual.push_back(line.substr(line.find(" - ") + 3));
+	EXPECT_EQ(expected, actual);
+	EXPECT_EQ(row.record, stripped ? stripped->ToString() : "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), numbering::test::RowName());
+
+/// A number dialled by the Argentine maker at a site with area code siteArea (long-distance prefix 0).
+struct DialRow
+{
+	const char* name;
+	const char* siteArea;
+	const char* areaNatPfx;
+	const char* dest;
+	const char* dialled;
+};
+
+// The worked examples dial the other cases back through the facade; these are the rows only the maker sees.
+const DialRow DIALS[] = {
+	{"FixedOfTheSiteArea", "11", "11", "43211234", "43211234"},
+	{"MobileOfThreeDigitArea", "11", "9223", "4234567", "0223154234567"},
+	{"MobileWithoutSiteArea", "", "", "91123456789", "0111523456789"},
+};
+
+class ZelDialable54Test: public MorePlansFixture, public ::testing::WithParamInterface<DialRow>
+{
+protected:
+	void SetUp() override
+	{
+		MorePlansFixture::SetUp();
+		configure(Setting::Sample);
+	}
+
+	Poco::AutoPtr<ZelDialable_54> m_Maker{new ZelDialable_54()};
+};
+
+TEST_P(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
+{
+	const DialRow& row = GetParam();
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
+	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("AR");
+	std::string area = row.areaNatPfx;
+	std::string dest = row.dest;
+	EXPECT_EQ(row.dialled, m_Maker->makeLongDistDialableNumber(area, dest, rule, site.get()));
+	EXPECT_EQ(row.dialled, m_Maker->makeLocalDialableNumber(area, dest, rule, site.get()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Argentina, ZelDialable54Test, ::testing::ValuesIn(DIALS), numbering::test::RowName());
+
+class ZelDialable54FallbackTest: public MorePlansFixture
+{
+};
+
+TEST_F(ZelDialable54FallbackTest, DialsAreaAndNumberWithoutArgentinePlan)
+{
+	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"FR", "1", "0"});
+	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("FR");
+	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
+	std::string area = "911";
+	std::string dest = "23456789";
+	Logger::m_Traces = true;
+	LogCapture::clear();
+	EXPECT_EQ("91123456789", maker->MakeLocalOrLongDistDialableNumber(area, dest, rule, site.get()));
+	EXPECT_TRUE(LogCapture::contains("DEBUG N9numbering14ZelDialable_54E - "
+									 "makeLocalOrLongDistDialableNumber(Argentina): not possible to strip the number"));
+}
+
+/// Inputs that no plan reads: each must come back unchanged, whatever the plan and the site.
+const std::string UNREADABLE[] = {"", "0", "00", "000", "0000", std::string(3, '\0'), std::string("0\0\xff\x80", 4),
+	"0" + std::string(16, '0'), "00" + std::string(200, '5'), "+++", "0(1) 2"};
+
+/// Long inputs that some open plans read as local or national numbers: they must only be read safely.
+const std::string LONG[] = {std::string(1000, '9'), "0" + std::string(1000, '1'), "9" + std::string(17, '0')};
+
+const SiteSetup SITES[] = {{"FR", "1", "0"}, {"FR", "", ""}, {"FR", "1234567890123", "00000"}, {"FR", "22", "9"}};
+
+class MorePlansRobustnessTest: public MorePlansFixture, public ::testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(MorePlansRobustnessTest, ReadsOddNumbersSafely)
+{
+	configure(Setting::Sample);
+	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(GetParam()));
+	for (const SiteSetup& setup : SITES)
+	{
+		const std::unique_ptr<ZelDialRulesItem> site = makeSite(setup);
+		for (const std::string& number : UNREADABLE)
+			EXPECT_EQ(number, plan->qap_Country_MakeCanonicalNumber(number, site.get())) << siteName(setup);
+		for (const std::string& number : LONG)
+			EXPECT_NO_THROW(plan->qap_Country_MakeCanonicalNumber(number, site.get())) << siteName(setup);
+	}
+}
+
+INSTANTIATE_TEST_SUITE_P(MorePlans,
+	MorePlansRobustnessTest,
+	::testing::Values("31", "32", "43", "44", "52", "54", "61", "353"),
+	[](const ::testing::TestParamInfo<const char*>& info) { return std::string("Plan") + info.param; });
+
+} // namespace
+} // namespace test
+} // namespace numbering
