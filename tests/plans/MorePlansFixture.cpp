@@ -2,10 +2,6 @@
 
 #include "plans/MorePlansFixture.h"
 
-#include "plans/ZelCNPFactory.h"
-
-#include "Poco/AutoPtr.h"
-
 #include <cstdio>
 #include <map>
 
@@ -56,22 +52,13 @@ std::string tableFile(const std::string& codes, bool translate)
 
 } // namespace
 
-void MorePlansFixture::writeDialingRules(bool mexico2019)
-{
-	writeFile("dialingrules.properties", std::string(DIALING_RULES) + (mexico2019 ? MEXICO_2019 : MEXICO));
-}
-
-void MorePlansFixture::writeSampleTable(const std::string& callingCode, bool translate)
-{
-	writeFile("r7731cnp_" + callingCode + ".properties", tableFile(SAMPLE_CODES.at(callingCode), translate));
-}
-
 void MorePlansFixture::configure(Setting setting)
 {
-	writeDialingRules(setting == Setting::Mexico2019);
+	writeFile("dialingrules.properties",
+		std::string(DIALING_RULES) + (setting == Setting::Mexico2019 ? MEXICO_2019 : MEXICO));
 	if (setting == Setting::NoTable) return;
-	for (const auto& entry : SAMPLE_CODES)
-		writeSampleTable(entry.first, setting != Setting::NoTranslate);
+	for (const auto& [callingCode, codes] : SAMPLE_CODES)
+		writeFile("r7731cnp_" + callingCode + ".properties", tableFile(codes, setting != Setting::NoTranslate));
 }
 
 std::unique_ptr<ZelDialRulesItem> MorePlansFixture::makeSite(const SiteSetup& site)
@@ -82,15 +69,6 @@ std::unique_ptr<ZelDialRulesItem> MorePlansFixture::makeSite(const SiteSetup& si
 std::string MorePlansFixture::siteName(const SiteSetup& site)
 {
 	return std::string(site.country) + "/" + site.areas + " ext " + site.ext;
-}
-
-std::string MorePlanTest::canonical(const std::string& callingCode)
-{
-	const PlanRow& row = GetParam();
-	configure(row.setting);
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(row.site);
-	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(callingCode));
-	return plan->qap_Country_MakeCanonicalNumber(row.number, site.get());
 }
 
 } // namespace test

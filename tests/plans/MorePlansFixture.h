@@ -6,13 +6,9 @@
 
 #include "numbering/ZelDialRulesItem.h"
 
-#include "plans/ZelCNP.h"
 #include "support/ConfigFixture.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
-#include <ostream>
 #include <string>
 
 namespace numbering {
@@ -43,12 +39,6 @@ enum class Setting
 class MorePlansFixture: public ConfigFixture
 {
 protected:
-	/// The dialing-rules entries of the examples; with mexico2019, Mexico's ten-digit dialling entry.
-	void writeDialingRules(bool mexico2019 = false);
-
-	/// "r7731cnp_<callingCode>.properties" with the sample table of that calling code, translation on or off.
-	void writeSampleTable(const std::string& callingCode, bool translate = true);
-
 	/// The dialing rules and tables of setting.
 	void configure(Setting setting);
 
@@ -57,24 +47,6 @@ protected:
 
 	/// "NL/20 ext 0".
 	static std::string siteName(const SiteSetup& site);
-};
-
-/// A worked example at plan level: the number handed to the plan at a site, and the plan's result.
-struct PlanRow
-{
-	const char* name;
-	SiteSetup site;
-	const char* number;
-	const char* canonical;
-	Setting setting = Setting::Sample;
-};
-
-/// Runs a row through the plan that the factory makes for a calling code.
-class MorePlanTest: public MorePlansFixture, public ::testing::WithParamInterface<PlanRow>
-{
-protected:
-	/// The plan's result for the row, after configuring its setting.
-	std::string canonical(const std::string& callingCode);
 };
 
 } // namespace test
