@@ -27,8 +27,7 @@ enum class Call
 	International
 };
 
-/// A maker call with the rule under test; an international call dials to countryNumber and may take the trunk
-/// prefix out of the area (areaAfter, "-" for unchanged).
+/// A maker call with the rule under test; areaAfter "-" means the area stays as it was.
 struct RuleCase
 {
 	const char* name;
@@ -54,8 +53,7 @@ protected:
 	}
 };
 
-/// The rule under test goes into the field of the maker called; the other fields hold decoy rules ("9F", "EF")
-/// whose prefix 9 or country number shows up if a maker reads the wrong rule.
+/// The other rule fields hold decoys ("9F", "EF") that show up if a maker reads the wrong rule.
 TEST_P(ZelDialableTest, AppliesOnlyTheLettersOfItsOwnRule)
 {
 	const RuleCase& c = GetParam();
@@ -146,8 +144,7 @@ TEST_F(ZelDialableManagerTest, EmptyCountryNumberGetsNoMaker)
 
 TEST_F(ZelDialableManagerTest, FactoryChoosesAVariantByTheWholeCountryNumber)
 {
-	// Each variant's class shows in the worked examples of its country; neighbours and padded forms get the
-	// generic maker.
+	// Each variant's class shows in its country's worked examples; neighbours get the generic maker.
 	ZelDialableFactory factory;
 	Poco::AutoPtr<ZelDialable> russian(factory.CreateInstance("7"));
 	EXPECT_EQ(typeid(ZelDialable_7), typeid(*russian));

@@ -37,8 +37,7 @@ struct PlanRow
 	const char* canonical;
 };
 
-// Plan-level rows that the end-to-end worked examples cannot reach: numbers the facade never hands over as
-// they stand. A site without external prefix or area code stands for the record of an international number.
+// Numbers the facade never hands over as they stand; a site without prefix or area is an international record.
 const PlanRow PLAN_ONLY[] = {
 	{"NlExtPrefixAndNational", NL20, "00201234567", "+31 (20) 1234567"},
 	{"NlTooShort", NL20, "02", "02"},
@@ -102,8 +101,7 @@ TEST_F(TrunkPrefixPlanTracesTest, UnknownCodeIsTracedBeforeTheZeroForm)
 
 const char* const NO_FILE = "No specific dialing rules configuration file";
 
-/// The info lines of a table plan built without its files: the first when the country file is missing, the
-/// second when the default file is missing too.
+/// The info lines of a table plan without its country file, then without its default file.
 struct ConstructionRow
 {
 	const char* callingCode;
@@ -161,8 +159,7 @@ INSTANTIATE_TEST_SUITE_P(TablePlans,
 	::testing::ValuesIn(CONSTRUCTIONS),
 	[](const ::testing::TestParamInfo<ConstructionRow>& info) { return std::string("Plan") + info.param.callingCode; });
 
-/// A split: the number, the site (null when "area" is ""), the record's text or "" for none, and the debug
-/// lines after "stripNbr('...')".
+/// A split: the number, the site area ("": no site), the record's text ("": none), the debug lines in between.
 struct StripRow
 {
 	const char* name;

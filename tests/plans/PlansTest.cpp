@@ -129,8 +129,7 @@ TEST_F(ZelCNPManagerTest, LowerCaseKeyIsRebuiltOnEveryRequest)
 	ASSERT_NE(nullptr, stored);
 	EXPECT_EQ(stored, manager->getCNP("DE"));
 	const int plans = ZelCNP::_count;
-	// The cache already holds "DE": the plan built for "de" is not stored and is released at once, and the
-	// stored one is lent in its place.
+	// The plan built for "de" is released at once and the stored "DE" one is lent in its place.
 	EXPECT_EQ(stored, manager->getCNP("de"));
 	EXPECT_EQ(plans, ZelCNP::_count);
 	EXPECT_EQ(2, germanPlansBuilt());
@@ -172,8 +171,7 @@ TEST_F(ZelCNPManagerTest, FactoryKnowsOnlyExactCallingCodes)
 {
 	for (const char* number : {"", "34", "490", "049", " 49", "4", "3530", "11"})
 		EXPECT_EQ(nullptr, ZelCNPFactory::CreateInstance(number)) << number;
-	// Through an object as well as through the class: hosts write either. Each calling code's plan class shows
-	// in the worked examples of its country.
+	// Hosts call the factory through an object too; each plan class shows in its country's worked examples.
 	ZelCNPFactory factory;
 	Poco::AutoPtr<ZelCNP> plan(factory.CreateInstance("49"));
 	EXPECT_NE(nullptr, dynamic_cast<ZelCNP_49*>(plan.get()));
@@ -183,8 +181,7 @@ TEST_F(ZelCNPManagerTest, FactoryKnowsOnlyExactCallingCodes)
 const char* const GERMAN_AREA_CODES[] = {"30", "40", "69", "89", "201", "771", "911", "3301", "3391", "3395", "7731",
 	"8031", "8041", "33203", "39208", "39209"};
 
-/// The codes above as "AC_%04d" entries, then entries as sites write them by hand: with blanks and a dash,
-/// without any digit, and "33", a path of longer codes.
+/// The codes above, then hand-written entries: blanks and a dash, no digit, and "33", a path of longer codes.
 std::string germanTable(const std::string& translateLine)
 {
 	std::string text = translateLine;
@@ -269,8 +266,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		GermanConversion{"BinaryNumber", "0", "", "0\x01\xff\x7f", "0\x01\xff\x7f"}),
 	numbering::test::RowName());
 
-/// The site's table file (DIRECTORY: a directory in its place) and its default twin, "" for missing; one
-/// conversion at a site in 7731 and the info lines the plan writes about missing files.
+/// Table file and default twin ("": missing), one conversion at a site in 7731, info lines about missing files.
 struct FileRow
 {
 	const char* name;
@@ -372,8 +368,7 @@ ZelCNP* makePlan(const std::string& country)
 	return new ZelCNP_7;
 }
 
-/// A number dialled at a site of the plan's country; with ruleMissing, the site is in "US" and the dialing
-/// rules know no other country.
+/// A number dialled at a site of the plan's country; ruleMissing: a US site, and only US in the dialing rules.
 struct Conversion
 {
 	const char* name;

@@ -19,8 +19,7 @@ namespace numbering {
 namespace test {
 namespace {
 
-/// A site: its country, its own area code and the external prefix of its exchange. Local numbers are shorter
-/// than 5 digits everywhere.
+/// A site: country, area code, external prefix; local numbers are shorter than 5 digits.
 struct Site
 {
 	const char* country;
@@ -28,8 +27,7 @@ struct Site
 	const char* extPrefix;
 };
 
-/// A number dialled or received at a site: its canonical form, what the exchange dials for it and the
-/// calling-line identity made of it.
+/// A number at a site: its canonical form, what the exchange dials, and its calling-line identity.
 struct Trip
 {
 	const char* name;
@@ -135,8 +133,7 @@ const Site MEXICO_CITY{"MX", "55", "9"};
 const Site GUADALAJARA{"MX", "33", "9"};
 const Site SYDNEY{"AU", "2", "0"};
 
-/// The countries of the four dialable variants and Spain; Colombia dials the carrier 4 and knows the carriers 5
-/// and 7; Australia's area codes are 2, 3, 7 and 8. Local numbers are shorter than 5 digits at every site.
+/// The countries of the four dialable variants and Spain; Colombia dials carrier 4 and knows 5 and 7.
 class DialableVariantsEndToEndTest: public test::ConfigFixture, public ::testing::WithParamInterface<PhoneCase>
 {
 protected:
@@ -161,9 +158,8 @@ TEST_P(DialableVariantsEndToEndTest, MakesPhoneNumber)
 	EXPECT_EQ(c.expected, ZelNumberingRules::getInstance()->makePhoneNumber(&site, c.input));
 }
 
-// A carrier dialled towards another country is dropped from the canonical number, one dialled towards Colombia
-// stays in the national number the Colombian plan reads; either way the site's own carrier 4 is dialled, and
-// abroad the subscriber number is dialled twice.
+// A carrier dialled abroad is dropped, one dialled towards Colombia stays; either way the site's carrier 4 is
+// dialled, and abroad the subscriber number twice.
 INSTANTIATE_TEST_SUITE_P(Sites,
 	DialableVariantsEndToEndTest,
 	::testing::Values(PhoneCase{"ColombiaAbroadWithCarrier", BOGOTA, "005 34 91 123 4567", "0004911234567911234567"},

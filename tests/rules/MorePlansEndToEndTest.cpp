@@ -38,9 +38,8 @@ const SiteSetup MX55{"MX", "55", "9"};
 const SiteSetup MX33{"MX", "33", "9"};
 const SiteSetup MX222{"MX", "222", "9"};
 
-/// A worked example through the facade: the number dialled at a site (the country's home site unless given),
-/// its canonical form, and the digits that form dials at the home site, at the other site and from France
-/// (null: the number is not canonical).
+/// A number dialled at a site (home unless given), its canonical form, and what that form dials at home, at the
+/// other site and from France (null: not canonical).
 struct TripRow
 {
 	const char* name;

@@ -71,8 +71,7 @@ std::string orWhatItThrows(Call call)
 	}
 }
 
-/// The results of every conversion of number at site, joined by "|"; an exception thrown by an unguarded
-/// operation is part of the result.
+/// Every conversion of number at site joined by "|", exceptions of unguarded operations included.
 std::string convertAll(ZelDialRulesItem* site, const std::string& number)
 {
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
@@ -116,9 +115,8 @@ protected:
 	std::vector<std::unique_ptr<ZelDialRulesItem>> m_Sites;
 };
 
-/// Does what the README asks of a host before it goes concurrent: the facade and the plan manager exist and
-/// every country's dialable maker is made. Only the plans of every other site country are built, so that
-/// the threads race to build the others under the plan manager's lock.
+/// What the README asks of a host before it goes concurrent, but with only every other site's plan built, so
+/// that the threads race to build the others.
 void prepareAsAHost()
 {
 	ZelNumberingRules::getInstance();
@@ -183,8 +181,7 @@ TEST_F(SampleSitesTest, WarmUpOfTheReadmeLeavesNoDialableMakerToBuild)
 	EXPECT_EQ(makers, ZelDialable::_count);
 }
 
-// ZelClid::_count is left out: it counts constructions, not live records. LeakSanitizer watches those, and
-// what the counters do not count.
+// ZelClid::_count counts constructions, not live records: LeakSanitizer watches those.
 TEST_F(SampleSitesTest, ResetReleasesEverythingTheConversionsBuilt)
 {
 	const std::pair<const char*, const int&> liveCounts[] = {{"plans", ZelCNP::_count},

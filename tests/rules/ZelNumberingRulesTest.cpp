@@ -30,8 +30,7 @@ protected:
 	}
 };
 
-/// Counts the constructions by their trace line; the reset must also release the cached makers, and a host
-/// holding the old pointer must see that it no longer names the instance.
+/// The reset also releases the cached makers, and a rebuilt instance is not at the old address.
 TEST_F(ZelNumberingRulesTest, GetInstanceBuildsOneFacadeUntilReset)
 {
 	Logger::m_Traces = true;
@@ -85,8 +84,7 @@ class FacadeTraceLinesTest: public ZelNumberingRulesTest, public ::testing::With
 {
 };
 
-/// Only the lines of the facade, the maker cache and the site record count: the configuration and plans have
-/// tests of their own. The instance is built before traces are switched on.
+/// Only the facade's, maker cache's and site record's lines count; the instance exists before traces are on.
 TEST_P(FacadeTraceLinesTest, WritesItsDebugLinesOnlyWhenTracesAreOn)
 {
 	const auto ownLines = [] {
@@ -196,8 +194,7 @@ INSTANTIATE_TEST_SUITE_P(SpanishSite,
 
 using ZelNumberingRulesCanonicalErrorTest = ZelNumberingRulesDialableTest;
 
-/// A failure after the destination country was found quotes the trimmed number and that country's temporary
-/// record, not the caller's site.
+/// A failure after the destination country was found quotes that country's temporary record.
 TEST_F(ZelNumberingRulesCanonicalErrorTest, QuotesTheTemporaryRecord)
 {
 	ZelDialRulesItem site("ES", "0", 4, "1", 0, "");
@@ -218,8 +215,7 @@ TEST_F(ZelNumberingRulesCanonicalErrorTest, QuotesTheTemporaryRecord)
 
 const char* const LOGGER = "N9numbering17ZelNumberingRulesE - ";
 
-/// Trunk prefix 0 with area codes (FR, GB, DE), trunk 0 without area codes (IT), neither (ES), and area codes
-/// without trunk prefix (US); a mask for 33 only.
+/// Trunk 0 with areas (FR, GB, DE), trunk 0 without (IT), neither (ES), areas only (US); a mask for 33 only.
 class ZelNumberingRulesFormattingTest: public test::ConfigFixture
 {
 protected:
@@ -245,8 +241,7 @@ protected:
 	ZelNumberingRules* m_Rules = nullptr;
 };
 
-/// formatCanonicalNumber(number, pattern), or generateDefaultCanonicalNumber(number, country, area) where the
-/// row has an area.
+/// formatCanonicalNumber(number, pattern), or generateDefaultCanonicalNumber(number, country, area).
 struct LayoutCase
 {
 	const char* name;
@@ -304,8 +299,7 @@ INSTANTIATE_TEST_SUITE_P(DefaultCanonicalNumbers,
 		LayoutCase{"UnknownCountryCode", "0201234567", "ZZ", "20", ""}),
 	numbering::test::RowName());
 
-/// A layout of an unreadable number: the input back and one error line with the operation's cause and the
-/// arguments (for formatCanonicalNumber, the mask that stood in for an empty pattern).
+/// A layout of an unreadable number: the input back and one error line ending with the arguments.
 struct LayoutErrorCase
 {
 	const char* name;

@@ -63,8 +63,7 @@ TEST_F(SampleConfigTest, NamesEveryCountryWithACallingCode)
 		EXPECT_NE("", ZelNumberingConfig::getInstance()->getCountryNumber(rules()->getCountryCode(name))) << name;
 }
 
-/// One area-code table: the national number "0" + code + subscriber must keep the code as its area, for every
-/// code of the file, which also shows that the plan stored every code.
+/// One area-code table: "0" + code + subscriber keeps the code as its area, for every code of the file.
 struct Table
 {
 	const char* name;
@@ -134,8 +133,7 @@ INSTANTIATE_TEST_SUITE_P(TablePlans,
 		Table{"Ireland", "IE", "353", "1", 49, 0}),
 	numbering::test::RowName());
 
-/// A well-known number of a plan country, dialled at a site in its capital, and the canonical form a person
-/// of that country expects, laid out by the sample mask.
+/// A well-known number dialled in its capital, and the canonical form its country expects.
 struct WellKnown
 {
 	const char* name;
