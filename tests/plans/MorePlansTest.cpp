@@ -20,13 +20,8 @@ namespace numbering {
 namespace test {
 namespace {
 
-const SiteSetup NL20{"NL", "20", "0"};
-const SiteSetup AT1EXT9{"AT", "1", "9"};
-const SiteSetup AT1{"AT", "1", "0"};
-const SiteSetup GB20{"GB", "20", "9"};
-const SiteSetup IE1{"IE", "1", "9"};
-const SiteSetup MX55{"MX", "55", "9"};
-const SiteSetup MX{"MX", "", ""};
+const SiteSetup NL20{"NL", "20", "0"}, AT1EXT9{"AT", "1", "9"}, AT1{"AT", "1", "0"}, GB20{"GB", "20", "9"},
+	IE1{"IE", "1", "9"}, MX55{"MX", "55", "9"}, MX{"MX", "", ""};
 
 /// A worked example at plan level: the number handed to the plan at a site, and the plan's result.
 struct PlanRow

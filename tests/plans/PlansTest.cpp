@@ -29,20 +29,13 @@
 #include <thread>
 #include <vector>
 
-using numbering::ZelCNP;
-using numbering::ZelCNP_49;
-using numbering::ZelCNPFactory;
-using numbering::ZelCNPManager;
-using numbering::ZelDialRulesItem;
-using numbering::test::LogCapture;
-
 namespace numbering {
 namespace test {
 namespace {
 
 const char* const DIALING_RULES = "DE=49:00:EFG:0FG:G:Germany:P\nES=34:00:EFG:0FG:G:Spain:P\n";
 
-class ZelCNPManagerTest: public numbering::test::ConfigFixture
+class ZelCNPManagerTest: public ConfigFixture
 {
 protected:
 	void SetUp() override
@@ -85,43 +78,28 @@ TEST_F(ZelCNPManagerTest, BuildsAPlanOnceAndLendsTheSamePointer)
 TEST_F(ZelCNPManagerTest, FailedKeyIsNotTriedAgainUntilReset)
 {
 	writeFile("dialingrules.properties", "ES=34:00:EFG:0FG:G:Spain:P\n");
-	numbering::ZelNumberingConfig::resetInstance();
+	ZelNumberingConfig::resetInstance();
 	EXPECT_EQ(nullptr, manager->getCNP("DE"));
 	// Germany becomes known, but the manager answers from its not-found list.
 	writeFile("dialingrules.properties", DIALING_RULES);
-	numbering::ZelNumberingConfig::resetInstance();
+	ZelNumberingConfig::resetInstance();
 	EXPECT_EQ(nullptr, manager->getCNP("DE"));
 	EXPECT_EQ(1, LogCapture::count("loadCNPClass('DE')"));
 	ZelCNPManager::resetInstance();
 	EXPECT_NE(nullptr, ZelCNPManager::getInstance()->getCNP("DE"));
 }
 
-struct Failure
+TEST_F(ZelCNPManagerTest, FailedKeyAnswersNullAndIsListedUpperCasedFromTwoCharactersOn)
 {
-	const char* name;
-	const char* key;
-	const char* listedAs;
-};
-
-class ZelCNPManagerFailureTest: public ZelCNPManagerTest, public ::testing::WithParamInterface<Failure>
-{
-};
-
-TEST_P(ZelCNPManagerFailureTest, AnswersNullAndListsTheKey)
-{
-	EXPECT_EQ(nullptr, manager->getCNP(GetParam().key));
-	EXPECT_TRUE(manager->isCountryNotFound(GetParam().listedAs));
+	const std::pair<const char*, const char*> keys[] = {
+		{"d", "d"}, {"", ""}, {"XX", "XX"}, {"es", "ES"}, {"deu", "DEU"}};
+	for (const auto& [key, listedAs] : keys)
+	{
+		EXPECT_EQ(nullptr, manager->getCNP(key)) << key;
+		EXPECT_TRUE(manager->isCountryNotFound(listedAs)) << key;
+	}
 	EXPECT_EQ(0, germanPlansBuilt());
 }
-
-INSTANTIATE_TEST_SUITE_P(Keys,
-	ZelCNPManagerFailureTest,
-	::testing::Values(Failure{"OneCharacterUnchanged", "d", "d"},
-		Failure{"Empty", "", ""},
-		Failure{"UnknownCountry", "XX", "XX"},
-		Failure{"CountryWithoutPlanUpperCased", "es", "ES"},
-		Failure{"LongKeyUpperCased", "deu", "DEU"}),
-	numbering::test::RowName());
 
 TEST_F(ZelCNPManagerTest, LowerCaseKeyIsRebuiltOnEveryRequest)
 {
@@ -148,7 +126,7 @@ TEST_F(ZelCNPManagerTest, ConcurrentFirstRequestsBuildOnePlan)
 		table += line;
 	}
 	writeFile("r7731cnp_49.properties", table);
-	numbering::ZelNumberingConfig::getInstance();
+	ZelNumberingConfig::getInstance();
 	std::promise<void> start;
 	std::shared_future<void> started = start.get_future().share();
 	std::vector<std::future<ZelCNP*>> results;
@@ -201,7 +179,7 @@ std::string germanTable(const std::string& translateLine)
 const std::string TABLE = germanTable("Translate=1\n");
 const std::string DIRECTORY = "(a directory)";
 
-class ZelCNP49Test: public numbering::test::ConfigFixture
+class ZelCNP49Test: public ConfigFixture
 {
 protected:
 	void SetUp() override
@@ -209,7 +187,7 @@ protected:
 		ConfigFixture::SetUp();
 		writeFile("dialingrules.properties", "DE=49:00:EFG:0FG:G:Germany:P\n");
 		// Loaded up front, so that its own lines about missing files are not mixed with the plan's.
-		numbering::ZelNumberingConfig::getInstance();
+		ZelNumberingConfig::getInstance();
 		LogCapture::clear();
 	}
 
@@ -264,7 +242,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		GermanConversion{"NothingBehindCode", "9", "", "039209", "039209"},
 		GermanConversion{"InternationalNotBehindPrefix", "9", "", "0049891234", "0049891234"},
 		GermanConversion{"BinaryNumber", "0", "", "0\x01\xff\x7f", "0\x01\xff\x7f"}),
-	numbering::test::RowName());
+	RowName());
 
 /// Table file and default twin ("": missing), one conversion at a site in 7731, info lines about missing files.
 struct FileRow
@@ -312,7 +290,7 @@ INSTANTIATE_TEST_SUITE_P(Files,
 			"SiteFileHidesDefaultTwin", "AC_0000=89\n", "AC_0000=8031\n", "0", "0803112345", "+49 (7731) 803112345", 0},
 		FileRow{"NoFileNational", "", "", "0", "0891234567", "+49 (7731) 891234567", 1},
 		FileRow{"NoFileLocal", "", "", "0", "1234567", "+49 (7731) 1234567", 1}),
-	numbering::test::RowName());
+	RowName());
 
 TEST_F(ZelCNP49Test, TracesConstructionAndAreaCodeSearch)
 {
@@ -463,7 +441,7 @@ const Conversion CONVERSIONS[] = {
 	{"NzBehindExternalPrefixWithoutTrunk", "NZ", "1930712345", "1930712345", "1", "9"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Plans, CountryPlansTest, ::testing::ValuesIn(CONVERSIONS), numbering::test::RowName());
+INSTANTIATE_TEST_SUITE_P(Plans, CountryPlansTest, ::testing::ValuesIn(CONVERSIONS), RowName());
 
 /// The debug messages of one plan's life: built, asked for number, released. "@" stands for the site.
 struct Trace

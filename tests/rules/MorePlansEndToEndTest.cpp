@@ -17,26 +17,11 @@ namespace numbering {
 namespace test {
 namespace {
 
-const SiteSetup FR1{"FR", "1", "0"};
-const SiteSetup NL20{"NL", "20", "0"};
-const SiteSetup NL10{"NL", "10", "0"};
-const SiteSetup BE2{"BE", "2", "0"};
-const SiteSetup BE4{"BE", "4", "0"};
-const SiteSetup AT1{"AT", "1", "0"};
-const SiteSetup AT1EXT9{"AT", "1", "9"};
-const SiteSetup AT316{"AT", "316", "0"};
-const SiteSetup GB20{"GB", "20", "9"};
-const SiteSetup GB121{"GB", "121", "9"};
-const SiteSetup IE1{"IE", "1", "9"};
-const SiteSetup IE1EXT0{"IE", "1", "0"};
-const SiteSetup IE21{"IE", "21", "9"};
-const SiteSetup AU2{"AU", "2", "0"};
-const SiteSetup AU3{"AU", "3", "0"};
-const SiteSetup AR11{"AR", "11", "0"};
-const SiteSetup AR351{"AR", "351", "0"};
-const SiteSetup MX55{"MX", "55", "9"};
-const SiteSetup MX33{"MX", "33", "9"};
-const SiteSetup MX222{"MX", "222", "9"};
+const SiteSetup FR1{"FR", "1", "0"}, NL20{"NL", "20", "0"}, NL10{"NL", "10", "0"}, BE2{"BE", "2", "0"},
+	BE4{"BE", "4", "0"}, AT1{"AT", "1", "0"}, AT1EXT9{"AT", "1", "9"}, AT316{"AT", "316", "0"}, GB20{"GB", "20", "9"},
+	GB121{"GB", "121", "9"}, IE1{"IE", "1", "9"}, IE1EXT0{"IE", "1", "0"}, IE21{"IE", "21", "9"}, AU2{"AU", "2", "0"},
+	AU3{"AU", "3", "0"}, AR11{"AR", "11", "0"}, AR351{"AR", "351", "0"}, MX55{"MX", "55", "9"}, MX33{"MX", "33", "9"},
+	MX222{"MX", "222", "9"};
 
 /// A number dialled at a site (home unless given), its canonical form, and what that form dials at home, at the
 /// other site and from France (null: not canonical).
