@@ -182,30 +182,10 @@ INSTANTIATE_TEST_SUITE_P(Values,
 		ActivationCase{"yes", "Invalid value for property 'cnp_' : yes", true}),
 	[](const ::testing::TestParamInfo<ActivationCase>& info) { return std::get<0>(info.param); });
 
-TEST_F(ZelNumberingConfigTest, ActivationLooksUpTheArgumentConvertedAsStrtolDoes)
-{
-	writeFile("dialingrules.properties", DIALING_RULES);
-	writeFile("specific_format_activation.properties", "cnp_1=maybe\ncnp_32=off\ncnp_33=on\n");
-	ZelNumberingConfig& config = load();
-	for (const char* zero : {"0", " 0", "-0", "abc", "0x1", "000"})
-		EXPECT_FALSE(config.isSpecificFormatActiveForCountry(zero)) << zero;
-	for (const char* other : {"", "33", "1", " 7x"})
-		EXPECT_TRUE(config.isSpecificFormatActiveForCountry(other)) << other;
-}
-
-TEST_F(ZelNumberingConfigTest, ExtractCountryNumberTakesTheShortestKnownPrefixUpToFourCharacters)
-{
-	writeFile("dialingrules.properties", DIALING_RULES);
-	ZelNumberingConfig& config = load();
-	const std::vector<std::pair<std::string, std::string>> cases{
-		{"12425550100", "1"}, {"331234", "33"}, {"59991234", "5999"}, {"888881234", ""}, {"3", ""}, {"", ""}};
-	for (const auto& [number, expected] : cases)
-		EXPECT_EQ(expected, config.extractCountryNumber(number)) << number;
-}
-
 TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
 {
 	writeFile("dialingrules.properties", DIALING_RULES);
+	writeFile("specific_format_activation.properties", "cnp_1=maybe\ncnp_32=off\ncnp_33=on\n");
 	ZelNumberingConfig& config = load();
 	EXPECT_TRUE(config.validCountryCode("FR"));
 	for (const char* code : {"fr", "FRA", "F", "", " F"})
@@ -217,6 +197,16 @@ TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
 	EXPECT_EQ("", config.getCountryCodeFromNumber("331"));
 	EXPECT_EQ("", config.getCountryCodeFromNumber(" 33"));
 	EXPECT_EQ("", config.getCountryCodeFromName("france"));
+	// The activation is looked up under the argument converted as strtol does.
+	for (const char* zero : {"0", " 0", "-0", "abc", "0x1", "000"})
+		EXPECT_FALSE(config.isSpecificFormatActiveForCountry(zero)) << zero;
+	for (const char* other : {"", "33", "1", " 7x"})
+		EXPECT_TRUE(config.isSpecificFormatActiveForCountry(other)) << other;
+	// The country number is the shortest known prefix of up to four characters.
+	const std::pair<const char*, const char*> numbers[] = {
+		{"12425550100", "1"}, {"331234", "33"}, {"59991234", "5999"}, {"888881234", ""}, {"3", ""}, {"", ""}};
+	for (const auto& [number, expected] : numbers)
+		EXPECT_EQ(expected, config.extractCountryNumber(number)) << number;
 }
 
 TEST_F(ZelNumberingConfigTest, ResetInstanceMakesTheNextInstanceReadTheFilesAgain)
