@@ -113,42 +113,22 @@ TEST(ZelAreaCodeTreeSelfTest, PrintsThreeExtractionsAndTheTree)
 	EXPECT_EQ(expected.ToString(), output.substr(head.size() - std::string("Root : ").size()));
 }
 
-class ZelCharsTreeTest: public ::testing::Test
+TEST(ZelCharsTreeTest, FindsTheLongestPathIgnoringMarksButACodeNeedsAMark)
 {
-protected:
-	void SetUp() override
-	{
-		for (const char* code : {"123", "126", "1234"})
-			tree.insert(code);
-	}
-
 	ZelCharsTree tree;
-};
-
-TEST_F(ZelCharsTreeTest, IsPresentGivesTheLongestPathIgnoringMarks)
-{
+	for (const char* code : {"123", "126", "1234"})
+		tree.insert(code);
 	EXPECT_EQ("12", tree.isPresent("1299"));
 	EXPECT_EQ("1234", tree.isPresent("123456"));
 	EXPECT_EQ("", tree.isPresent("9123"));
 	EXPECT_EQ("", tree.isPresent(""));
-}
-
-TEST_F(ZelCharsTreeTest, IsAreaCodeNeedsAMarkedEndOfAWholePath)
-{
 	EXPECT_TRUE(tree.isAreaCode("123"));
 	EXPECT_TRUE(tree.isAreaCode("1234"));
 	EXPECT_FALSE(tree.isAreaCode("12"));
 	EXPECT_FALSE(tree.isAreaCode("12345"));
 	EXPECT_FALSE(tree.isAreaCode(""));
-}
-
-TEST_F(ZelCharsTreeTest, RefusesAnEmptyString)
-{
-	EXPECT_EQ(" Unexpected value:", thrownMessage<std::invalid_argument>([this] { tree.insert(""); }));
-}
-
-TEST_F(ZelCharsTreeTest, AssignmentMergesOnlySubtreesUnderNewKeys)
-{
+	EXPECT_EQ(" Unexpected value:", thrownMessage<std::invalid_argument>([&tree] { tree.insert(""); }));
+	// Assignment merges only the subtrees under keys the target lacks.
 	tree.insert("45");
 	ZelCharsTree other;
 	other.insert("125");
@@ -158,21 +138,7 @@ TEST_F(ZelCharsTreeTest, AssignmentMergesOnlySubtreesUnderNewKeys)
 	EXPECT_FALSE(other.isAreaCode("123"));
 }
 
-TEST(ZelCharsTreeElementTest, StoringAPathKeepsTheMarksItFinds)
-{
-	ZelCharsTreeElement root('\0');
-	root.insert(std::string("123"));
-	root.insert(std::string("1234"));
-	root.insert(std::string("12"));
-	ZelCharsTreeElement* two = root.get('1')->get('2');
-	EXPECT_FALSE(two->isAreaCode());
-	EXPECT_TRUE(two->get('3')->isAreaCode());
-	EXPECT_TRUE(two->get('3')->get('4')->isAreaCode());
-	root.insert(std::string("126"));
-	EXPECT_EQ(3, root.numberOfStoredCodes());
-}
-
-TEST(ZelCharsTreeElementTest, RendersEveryDescendantAtTheSameIndent)
+TEST(ZelCharsTreeElementTest, StoringAPathKeepsTheMarksItFindsAndRendersEveryDescendantAtOneIndent)
 {
 	ZelCharsTreeElement root('\0');
 	EXPECT_EQ("Root : ", root.ToString());
@@ -180,6 +146,15 @@ TEST(ZelCharsTreeElementTest, RendersEveryDescendantAtTheSameIndent)
 	root.insert(std::string("123"));
 	EXPECT_EQ("Root : \n1\n2 (true)\n3 (true)", root.ToString());
 	EXPECT_EQ("Root : \n  1\n  2 (true)\n  3 (true)", root.ToString(2));
+	ZelCharsTreeElement other('\0');
+	for (const char* code : {"123", "1234", "12"})
+		other.insert(std::string(code));
+	ZelCharsTreeElement* two = other.get('1')->get('2');
+	EXPECT_FALSE(two->isAreaCode());
+	EXPECT_TRUE(two->get('3')->isAreaCode());
+	EXPECT_TRUE(two->get('3')->get('4')->isAreaCode());
+	other.insert(std::string("126"));
+	EXPECT_EQ(3, other.numberOfStoredCodes());
 }
 
 TEST(ZelCharsTreeLifetimeTest, DeletingATreeFreesEveryNode)
