@@ -115,9 +115,7 @@ TEST_F(ZelDialableTest, LongDistWritesItsTraceOnlyWhenTracesAreOn)
 	EXPECT_EQ(expected, LogCapture::lines());
 }
 
-class ZelDialableManagerTest: public test::ConfigFixture
-{
-};
+using ZelDialableManagerTest = test::ConfigFixture;
 
 TEST_F(ZelDialableManagerTest, KeepsOneMakerPerCountryNumberUntilReset)
 {

@@ -203,10 +203,7 @@ TEST_P(ZelCNP54StripTest, SplitsAndTracesTheNumber)
 	expected.insert(expected.end(), row.lines.begin(), row.lines.end());
 	expected.push_back(*row.record ? "Argentina stripNumber returns " + std::string(row.record)
 								   : "Argentina StripNumber returns null");
-	std::vector<std::string> actual;
-	for (const std::string& line : LogCapture::lines())
-		actual.push_back(line.substr(line.find(" - ") + 3));
-	EXPECT_EQ(expected, actual);
+	EXPECT_EQ(expected, LogCapture::messages());
 	EXPECT_EQ(row.record, stripped ? stripped->ToString() : "");
 }
 
@@ -231,32 +228,24 @@ const DialRow DIALS[] = {
 
 class ZelDialable54Test: public MorePlansFixture, public ::testing::WithParamInterface<DialRow>
 {
-protected:
-	void SetUp() override
-	{
-		MorePlansFixture::SetUp();
-		configure(Setting::Sample);
-	}
-
-	Poco::AutoPtr<ZelDialable_54> m_Maker{new ZelDialable_54()};
 };
 
 TEST_P(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
 {
 	const DialRow& row = GetParam();
+	configure(Setting::Sample);
+	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
 	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
 	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("AR");
 	std::string area = row.areaNatPfx;
 	std::string dest = row.dest;
-	EXPECT_EQ(row.dialled, m_Maker->makeLongDistDialableNumber(area, dest, rule, site.get()));
-	EXPECT_EQ(row.dialled, m_Maker->makeLocalDialableNumber(area, dest, rule, site.get()));
+	EXPECT_EQ(row.dialled, maker->makeLongDistDialableNumber(area, dest, rule, site.get()));
+	EXPECT_EQ(row.dialled, maker->makeLocalDialableNumber(area, dest, rule, site.get()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Argentina, ZelDialable54Test, ::testing::ValuesIn(DIALS), numbering::test::RowName());
 
-class ZelDialable54FallbackTest: public MorePlansFixture
-{
-};
+using ZelDialable54FallbackTest = MorePlansFixture;
 
 TEST_F(ZelDialable54FallbackTest, DialsAreaAndNumberWithoutArgentinePlan)
 {

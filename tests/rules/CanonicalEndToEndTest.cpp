@@ -148,9 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Dialled,
 	RowName());
 
 /// With traces on, a number left unconverted says why.
-class MakeCanonicalNumberTracesTest: public SiteCaseTest
-{
-};
+using MakeCanonicalNumberTracesTest = SiteCaseTest;
 
 TEST_P(MakeCanonicalNumberTracesTest, LogsHowTheNumberWasClassified)
 {
