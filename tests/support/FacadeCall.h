@@ -5,6 +5,7 @@
 #define Numbering_FacadeCall_INCLUDED
 
 #include "numbering/ZelDialRulesItem.h"
+#include "numbering/ZelNumberingRules.h"
 
 #include <string>
 
@@ -24,7 +25,26 @@ enum class Op
 };
 
 /// What the facade instance makes of number at site; the canonical operations get pattern.
-std::string callFacade(Op op, ZelDialRulesItem* site, const std::string& number, const std::string& pattern = "");
+inline std::string callFacade(Op op, ZelDialRulesItem* site, const std::string& number, const std::string& pattern = "")
+{
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	switch (op)
+	{
+	case Op::Canonical:
+		return rules->makeCanonicalNumber(site, number, pattern);
+	case Op::CanonicalWithExtPrefix:
+		return rules->makeCanonicalNumber(site, number, pattern, true);
+	case Op::Phone:
+		return rules->makePhoneNumber(site, number);
+	case Op::Prefix:
+		return rules->addExternalPrefix(site, number);
+	case Op::Dial:
+		return rules->makeDialableNumber(site, number);
+	case Op::GSM:
+		return rules->makeGSMCanonicalNumber(site, number, false);
+	}
+	return "unknown operation";
+}
 
 } // namespace test
 } // namespace numbering
