@@ -6,13 +6,7 @@
 
 #include "plans/ZelCNPFactory.h"
 #include "plans/ZelCNPManager.h"
-#include "plans/ZelCNP_1.h"
-#include "plans/ZelCNP_33.h"
-#include "plans/ZelCNP_41.h"
 #include "plans/ZelCNP_49.h"
-#include "plans/ZelCNP_57.h"
-#include "plans/ZelCNP_64.h"
-#include "plans/ZelCNP_7.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
 #include "support/RowName.h"
@@ -25,6 +19,7 @@
 #include <filesystem>
 #include <future>
 #include <iterator>
+#include <map>
 #include <string>
 #include <thread>
 #include <vector>
@@ -335,15 +330,12 @@ CO=57:00:EFG:0FG:G:Colombia:P
 NZ=64:00:EFG:0FG:G:New Zealand:P
 )";
 
-/// The plan of a site's country, as the factory would choose it.
+/// The plan of a site's country, as the factory makes it.
 ZelCNP* makePlan(const std::string& country)
 {
-	if (country == "US") return new ZelCNP_1;
-	if (country == "FR") return new ZelCNP_33;
-	if (country == "CH") return new ZelCNP_41;
-	if (country == "CO") return new ZelCNP_57;
-	if (country == "NZ") return new ZelCNP_64;
-	return new ZelCNP_7;
+	const std::map<std::string, std::string> callingCodes{
+		{"US", "1"}, {"FR", "33"}, {"CH", "41"}, {"CO", "57"}, {"NZ", "64"}, {"RU", "7"}};
+	return ZelCNPFactory::CreateInstance(callingCodes.at(country));
 }
 
 /// A number dialled at a site of the plan's country; ruleMissing: a US site, and only US in the dialing rules.
