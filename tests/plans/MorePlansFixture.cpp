@@ -2,8 +2,10 @@
 
 #include "plans/MorePlansFixture.h"
 
-#include <cstdio>
+#include <iterator>
 #include <map>
+#include <sstream>
+#include <vector>
 
 namespace numbering {
 namespace test {
@@ -34,22 +36,6 @@ const std::map<std::string, std::string> SAMPLE_CODES = {
 	{"61", "2 3 7 8"},
 };
 
-std::string tableFile(const std::string& codes, bool translate)
-{
-	std::string content = translate ? "Translate=1\n" : "Translate=0\n";
-	std::string::size_type start = 0;
-	for (int index = 0; start < codes.size(); ++index)
-	{
-		std::string::size_type end = codes.find(' ', start);
-		if (end == std::string::npos) end = codes.size();
-		char key[16];
-		std::snprintf(key, sizeof(key), "AC_%04d=", index);
-		content += key + codes.substr(start, end - start) + "\n";
-		start = end + 1;
-	}
-	return content;
-}
-
 } // namespace
 
 void MorePlansFixture::configure(Setting setting)
@@ -58,7 +44,12 @@ void MorePlansFixture::configure(Setting setting)
 		std::string(DIALING_RULES) + (setting == Setting::Mexico2019 ? MEXICO_2019 : MEXICO));
 	if (setting == Setting::NoTable) return;
 	for (const auto& [callingCode, codes] : SAMPLE_CODES)
-		writeFile("r7731cnp_" + callingCode + ".properties", tableFile(codes, setting != Setting::NoTranslate));
+	{
+		std::istringstream words(codes);
+		const std::vector<std::string> list{std::istream_iterator<std::string>(words), {}};
+		const char* translate = setting == Setting::NoTranslate ? "Translate=0\n" : "Translate=1\n";
+		writeFile("r7731cnp_" + callingCode + ".properties", areaCodeTable(translate, list));
+	}
 }
 
 std::unique_ptr<ZelDialRulesItem> MorePlansFixture::makeSite(const SiteSetup& site)

@@ -113,14 +113,10 @@ TEST_F(ZelCNPManagerTest, LowerCaseKeyIsRebuiltOnEveryRequest)
 TEST_F(ZelCNPManagerTest, ConcurrentFirstRequestsBuildOnePlan)
 {
 	// A long table keeps the first construction busy while the other threads arrive.
-	std::string table;
-	for (int index = 0; index < 3000; ++index)
-	{
-		char line[32];
-		std::snprintf(line, sizeof(line), "AC_%04d=%d\n", index, 2000 + index);
-		table += line;
-	}
-	writeFile("r7731cnp_49.properties", table);
+	std::vector<std::string> codes;
+	for (int code = 2000; code < 5000; ++code)
+		codes.push_back(std::to_string(code));
+	writeFile("r7731cnp_49.properties", areaCodeTable("", codes));
 	ZelNumberingConfig::getInstance();
 	std::promise<void> start;
 	std::shared_future<void> started = start.get_future().share();
@@ -157,18 +153,9 @@ const char* const GERMAN_AREA_CODES[] = {"30", "40", "69", "89", "201", "771", "
 /// The codes above, then hand-written entries: blanks and a dash, no digit, and "33", a path of longer codes.
 std::string germanTable(const std::string& translateLine)
 {
-	std::string text = translateLine;
-	int index = 0;
-	auto add = [&text, &index](const std::string& value) {
-		char key[16];
-		std::snprintf(key, sizeof(key), "AC_%04d", index++);
-		text += std::string(key) + "=" + value + "\n";
-	};
-	for (const char* code : GERMAN_AREA_CODES)
-		add(code);
-	for (const char* value : {"30 - 1", "n/a", "33", "8 0 3 3"})
-		add(value);
-	return text;
+	std::vector<std::string> codes(std::begin(GERMAN_AREA_CODES), std::end(GERMAN_AREA_CODES));
+	codes.insert(codes.end(), {"30 - 1", "n/a", "33", "8 0 3 3"});
+	return ConfigFixture::areaCodeTable(translateLine, codes);
 }
 
 const std::string TABLE = germanTable("Translate=1\n");

@@ -8,6 +8,7 @@
 
 #include "support/LogCapture.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -49,6 +50,18 @@ const std::string& ConfigFixture::configDir() const
 void ConfigFixture::resetLibrary()
 {
 	ZelNumberingRules::resetInstance();
+}
+
+std::string ConfigFixture::areaCodeTable(const std::string& head, const std::vector<std::string>& codes)
+{
+	std::string text = head;
+	char key[16];
+	for (std::size_t index = 0; index < codes.size(); ++index)
+	{
+		std::snprintf(key, sizeof(key), "AC_%04zu=", index);
+		text += key + codes[index] + "\n";
+	}
+	return text;
 }
 
 } // namespace test

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace numbering {
 namespace test {
@@ -15,6 +16,10 @@ namespace test {
 /// SetUp; resets the library's singletons, restores the switch and removes the directory in TearDown.
 class ConfigFixture: public ::testing::Test
 {
+public:
+	/// An area-code table file: head, then the entries AC_0000=codes[0], AC_0001=codes[1], ...
+	static std::string areaCodeTable(const std::string& head, const std::vector<std::string>& codes);
+
 protected:
 	void SetUp() override;
 
