@@ -159,6 +159,7 @@ std::string germanTable(const std::string& translateLine)
 }
 
 const std::string TABLE = germanTable("Translate=1\n");
+const std::string TABLE_TRANSLATE_YES = germanTable("Translate=yes\n");
 const std::string DIRECTORY = "(a directory)";
 
 class ZelCNP49Test: public ConfigFixture
@@ -258,11 +259,9 @@ TEST_P(ZelCNP49FileTest, ReadsTheSiteFileElseItsDefaultTwin)
 
 INSTANTIATE_TEST_SUITE_P(Files,
 	ZelCNP49FileTest,
-	::testing::Values(
-		FileRow{"TranslateOtherThanOneKeepsLocal", germanTable("Translate=yes\n"), "", "0", "1234567", "1234567", 0},
-		FileRow{"TranslateOtherThanOneKeepsLocalBehindPrefix", germanTable("Translate=yes\n"), "", "9", "91234567",
-			"91234567", 0},
-		FileRow{"TranslateOtherThanOneStillReadsNational", germanTable("Translate=yes\n"), "", "9", "90891234567",
+	::testing::Values(FileRow{"TranslateOtherThanOneKeepsLocal", TABLE_TRANSLATE_YES, "", "0", "1234567", "1234567", 0},
+		FileRow{"TranslateOtherThanOneKeepsLocalBehindPrefix", TABLE_TRANSLATE_YES, "", "9", "91234567", "91234567", 0},
+		FileRow{"TranslateOtherThanOneStillReadsNational", TABLE_TRANSLATE_YES, "", "9", "90891234567",
 			"+49 (89) 1234567", 0},
 		FileRow{"NoTranslateLineKeepsTranslationOn", germanTable(""), "", "0", "1234567", "+49 (7731) 1234567", 0},
 		FileRow{"DefaultTwinReadSilently", "", "Translate=0\nAC_0000=8031\n", "0", "0803112345", "+49 (8031) 12345", 0},

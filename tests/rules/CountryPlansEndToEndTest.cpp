@@ -12,7 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 
 namespace numbering {
@@ -94,32 +93,22 @@ CO=57:00:EFG:0FG:G:Colombia:P
 NZ=64:00:EFG:0FG:G:New Zealand:P
 )");
 	}
-
-	/// The row's site; the dialing rules must be written first.
-	ZelDialRulesItem site() const
-	{
-		const Site& at = GetParam().site;
-		return ZelDialRulesItem(at.country, at.extPrefix, 5, at.areaCode, 0, "");
-	}
-
-	static ZelNumberingRules* rules()
-	{
-		return ZelNumberingRules::getInstance();
-	}
 };
 
 TEST_P(CountryPlansEndToEndTest, MakesCanonicalNumberPhoneNumberAndClid)
 {
-	ZelDialRulesItem at = site();
-	EXPECT_EQ(GetParam().canonical, rules()->makeCanonicalNumber(&at, GetParam().input, ""));
-	EXPECT_EQ(GetParam().dialled, rules()->makePhoneNumber(&at, GetParam().input));
-	Poco::AutoPtr<ZelClid> clid(rules()->makeClid(&at, GetParam().input));
+	const Trip& trip = GetParam();
+	ZelDialRulesItem at(trip.site.country, trip.site.extPrefix, 5, trip.site.areaCode, 0, "");
+	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
+	EXPECT_EQ(trip.canonical, rules->makeCanonicalNumber(&at, trip.input, ""));
+	EXPECT_EQ(trip.dialled, rules->makePhoneNumber(&at, trip.input));
+	Poco::AutoPtr<ZelClid> clid(rules->makeClid(&at, trip.input));
 	ASSERT_FALSE(clid.isNull());
-	EXPECT_EQ(GetParam().clidNumber, clid->getNumber());
-	EXPECT_EQ(GetParam().clidOrigin, clid->getOrigin()->getName());
+	EXPECT_EQ(trip.clidNumber, clid->getNumber());
+	EXPECT_EQ(trip.clidOrigin, clid->getOrigin()->getName());
 }
 
-INSTANTIATE_TEST_SUITE_P(Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), numbering::test::RowName());
+INSTANTIATE_TEST_SUITE_P(Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), RowName());
 
 struct PhoneCase
 {
@@ -172,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(Sites,
 		PhoneCase{"AustraliaMobile", SYDNEY, "+61 4 1234 5678", "00412345678"},
 		PhoneCase{"AustraliaLocalRate", SYDNEY, "1300 123 456", "01300123456"},
 		PhoneCase{"RussiaNineDigits", MOSCOW, "+7 812 123 456", "9812123456"}),
-	numbering::test::RowName());
+	RowName());
 
 } // namespace
 } // namespace test

@@ -227,17 +227,15 @@ const TripRow MEXICO[] = {
 
 class MorePlansEndToEndTest: public MorePlansFixture, public ::testing::WithParamInterface<TripRow>
 {
-protected:
-	std::string dial(const SiteSetup& setup, const std::string& canonical)
-	{
-		return ZelNumberingRules::getInstance()->makeDialableNumber(makeSite(setup).get(), canonical);
-	}
 };
 
 TEST_P(MorePlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
 {
 	const TripRow& row = GetParam();
 	configure(row.setting);
+	const auto dial = [](const SiteSetup& setup, const std::string& canonical) {
+		return ZelNumberingRules::getInstance()->makeDialableNumber(makeSite(setup).get(), canonical);
+	};
 	const std::string canonical =
 		ZelNumberingRules::getInstance()->makeCanonicalNumber(makeSite(row.at).get(), row.input, "");
 	ASSERT_EQ(row.canonical, canonical);
