@@ -39,17 +39,13 @@ TEST(NumberFormatExceptionTest, IsAnInvalidArgumentCarryingTheMessage)
 	EXPECT_STREQ("Unexpected digit: x", error.what());
 }
 
-TEST(LoggerTest, GetLoggerReturnsAFreshObjectEachCall)
+TEST(LoggerTest, GivesAFreshLoggerEachCallThatWritesLevelNameSeparatorAndMessageAtLevelOne)
 {
 	// The library keeps its loggers for the life of the process; the test gives its own back.
 	std::unique_ptr<Logger> first(Logger::getLogger("same"));
 	std::unique_ptr<Logger> second(Logger::getLogger("same"));
 	EXPECT_NE(first, second);
 	EXPECT_EQ("same", second->getName());
-}
-
-TEST(LoggerTest, WritesLevelWordNameSeparatorAndMessageAtLevelOne)
-{
 	LogCapture::clear();
 	std::unique_ptr<Logger> logger(Logger::getLogger("N9numbering18ZelNumberingConfigE"));
 	logger->debug("loadDialingRules()");

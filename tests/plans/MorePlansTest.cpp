@@ -138,13 +138,9 @@ protected:
 	}
 };
 
-TEST_P(TablePlanConstructionTest, NamesBothMissingFiles)
+TEST_P(TablePlanConstructionTest, NamesBothMissingFilesThenOnlyTheCountryFileWhenTheDefaultOpens)
 {
 	EXPECT_EQ(expectedLines(true), infoLines());
-}
-
-TEST_P(TablePlanConstructionTest, NamesOnlyTheCountryFileWhenTheDefaultOpens)
-{
 	writeFile(std::string("r7731cnp_") + GetParam().callingCode + "_default.properties", "Translate=1\n");
 	EXPECT_EQ(expectedLines(false), infoLines());
 }

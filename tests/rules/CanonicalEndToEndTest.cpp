@@ -210,17 +210,14 @@ INSTANTIATE_TEST_SUITE_P(Origins,
 
 using UnguardedOperationTest = CanonicalSitesFixture;
 
-TEST_F(UnguardedOperationTest, GiveNullOrThrow)
+TEST_F(UnguardedOperationTest, GiveNullOrThrowAndDialableNumbersEndAtThirtyCharacters)
 {
 	EXPECT_EQ(nullptr, rules()->makeClid(site("Berlin"), "12x4"));
 	EXPECT_THROW(rules()->makeClid(nullptr, "1234"), std::invalid_argument);
 	EXPECT_THROW(rules()->makeClid(site("Berlin"), ""), std::invalid_argument);
 	EXPECT_THROW(rules()->makeClid(site("Unconfigured"), "+49 30 1234567"), std::runtime_error);
 	EXPECT_THROW(rules()->makeDialableNumber(site("Berlin"), ""), std::out_of_range);
-}
-
-TEST_F(UnguardedOperationTest, DialableNumberReadsNoFurtherThanThirtyCharacters)
-{
+	// makeDialableNumber reads no further than thirty characters.
 	const std::string twentyDigits = "12345678901234567890";
 	const std::string canonical = "+49 (89) " + twentyDigits;
 	ASSERT_EQ(29u, canonical.size());
