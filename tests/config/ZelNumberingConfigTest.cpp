@@ -13,9 +13,9 @@
 
 #include "Poco/AutoPtr.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 
 using numbering::ZelCountryRuleItem;
@@ -38,13 +38,6 @@ FR=33:00:EFG:0FG:G:France:P
 US=1:011:EFG:1F:G:United States:P
 XX=88888:00:EFG:0FG:G:Nowhere:P
 )";
-
-/// True when one captured line is exactly this one.
-bool hasLine(const std::string& line)
-{
-	const std::vector<std::string> lines = LogCapture::lines();
-	return std::find(lines.begin(), lines.end(), line) != lines.end();
-}
 
 class ZelNumberingConfigTest: public numbering::test::ConfigFixture
 {
@@ -90,8 +83,9 @@ TEST_F(ZelNumberingConfigTest, WithoutAnyFileTablesStayEmptyAndEveryActivationIs
 {
 	writeFile("specific_format_activation.properties", "cnp_33=true\ncnp_9999=true\ncnp_=true\n");
 	EXPECT_TRUE(load(true).getCountryList().empty());
-	EXPECT_TRUE(hasLine("ERROR " + LINE + "ZelNumberingConfig::loadDialingRules Exception : File not found"));
-	EXPECT_TRUE(hasLine("DEBUG " + LINE + "Invalid property 'cnp_33'"));
+	EXPECT_THAT(LogCapture::lines(),
+		::testing::Contains("ERROR " + LINE + "ZelNumberingConfig::loadDialingRules Exception : File not found"));
+	EXPECT_THAT(LogCapture::lines(), ::testing::Contains("DEBUG " + LINE + "Invalid property 'cnp_33'"));
 	EXPECT_EQ(0, LogCapture::count("createListCountryDisplay()"));
 	EXPECT_EQ(1, LogCapture::count("Invalid"));
 }
@@ -130,7 +124,7 @@ TEST_P(ZelNumberingConfigMaskTest, StoresPatternUnderMaskKeyAndDropsCountFromThe
 {
 	writeFile("qap_cnp_mask.properties", GetParam().masks);
 	EXPECT_EQ(GetParam().pattern, load(true).getDefaultPattern(GetParam().key));
-	EXPECT_TRUE(hasLine("DEBUG " + LINE + GetParam().loadedLine));
+	EXPECT_THAT(LogCapture::lines(), ::testing::Contains("DEBUG " + LINE + GetParam().loadedLine));
 	EXPECT_EQ("", load().getDefaultPattern(""));
 }
 
@@ -167,7 +161,7 @@ TEST_P(ZelNumberingConfigActivationTest, KeepsTheFlagUnderZeroSoRealNumbersReadA
 	writeFile("dialingrules.properties", DIALING_RULES);
 	writeFile("specific_format_activation.properties", "cnp_33=" + value + "\n");
 	ZelNumberingConfig& config = load(true);
-	EXPECT_TRUE(hasLine("DEBUG " + LINE + line));
+	EXPECT_THAT(LogCapture::lines(), ::testing::Contains("DEBUG " + LINE + line));
 	EXPECT_EQ(flagUnderZero, config.isSpecificFormatActiveForCountry("0"));
 	EXPECT_TRUE(config.isSpecificFormatActiveForCountry("33"));
 }
@@ -237,8 +231,8 @@ TEST_P(ZelNumberingConfigBadFileTest, LogsAndKeepsWhatCouldBeRead)
 	ZelNumberingConfig* config = nullptr;
 	ASSERT_NO_THROW(config = ZelNumberingConfig::getInstance());
 	EXPECT_EQ(GetParam().countries, config->getCountryList());
-	EXPECT_EQ(*GetParam().error != '\0',
-		LogCapture::contains("loadDialingRules Exception : " + std::string(GetParam().error)));
+	EXPECT_EQ(*GetParam().error != '\0' ? 1 : 0,
+		LogCapture::count("loadDialingRules Exception : " + std::string(GetParam().error)));
 }
 
 std::string binaryJunk()
@@ -266,7 +260,8 @@ TEST_F(ZelNumberingConfigTest, DirectoryOrEmptyPathInPlaceOfAFileCountsAsMissing
 	std::filesystem::create_directory(configDir() + "qap_cnp_mask_default.properties");
 	EXPECT_EQ("FR", load().getCountryCodeFromName("France"));
 	EXPECT_EQ(2, LogCapture::count(NO_RULES_FILE));
-	EXPECT_TRUE(hasLine("ERROR " + LINE + "ZelNumberingConfig::loadCountryMasks Exception : Cannot open file"));
+	EXPECT_THAT(LogCapture::lines(),
+		::testing::Contains("ERROR " + LINE + "ZelNumberingConfig::loadCountryMasks Exception : Cannot open file"));
 }
 
 class ZelDialRulesItemTest: public numbering::test::ConfigFixture

@@ -144,20 +144,15 @@ struct DialCase
 	std::string areaAfter;
 };
 
-/// Operator code 4, so that the code read from the plan file shows in every number.
 class ZelDialable57DialTest: public ZelDialable57Test, public ::testing::WithParamInterface<DialCase>
 {
-protected:
-	void SetUp() override
-	{
-		ZelDialable57Test::SetUp();
-		writeFile("r7731cnp_57.properties", "OP_DEFAULT = 4\n");
-	}
 };
 
 TEST_P(ZelDialable57DialTest, DialsTheOperatorCodeAbroad)
 {
 	const DialCase& c = GetParam();
+	// Operator code 4, so that the code read from the plan file shows in every number.
+	writeFile("r7731cnp_57.properties", "OP_DEFAULT = 4\n");
 	ZelDialable_57 maker;
 	ZelCountryRuleItem rule("57", "00", c.internatRule, "0F", "", "Colombia");
 	std::string country = c.countryNumber;
@@ -179,6 +174,7 @@ INSTANTIATE_TEST_SUITE_P(International,
 
 TEST_F(ZelDialable57DialTest, LongDistanceDialsTheMobileDigitInPlaceOfTheOperatorCode)
 {
+	writeFile("r7731cnp_57.properties", "OP_DEFAULT = 4\n");
 	ZelDialable_57 maker;
 	std::string area;
 	std::string dest = "3001234567";

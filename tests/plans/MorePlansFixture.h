@@ -25,14 +25,10 @@ struct SiteSetup
 /// What a row of examples needs besides the dialing rules of the examples.
 enum class Setting
 {
-	/// The sample tables.
-	Sample,
-	/// The sample tables with "Translate=0".
-	NoTranslate,
-	/// No table file at all.
-	NoTable,
-	/// The sample tables and Mexico's ten-digit dialling.
-	Mexico2019
+	Sample,      ///< the sample tables
+	NoTranslate, ///< the sample tables with "Translate=0"
+	NoTable,     ///< no table file at all
+	Mexico2019   ///< the sample tables and Mexico's ten-digit dialling
 };
 
 /// Writes the dialing rules of the eight countries and France, and the sample area-code tables.

@@ -43,12 +43,6 @@ protected:
 		LogCapture::clear();
 	}
 
-	void TearDown() override
-	{
-		ZelCNPManager::resetInstance();
-		ConfigFixture::TearDown();
-	}
-
 	/// Number of German plans built since the last LogCapture::clear().
 	static int germanPlansBuilt()
 	{

@@ -53,11 +53,6 @@ int LogCapture::count(const std::string& text)
 		[&text](const std::string& line) { return line.find(text) != std::string::npos; }));
 }
 
-bool LogCapture::contains(const std::string& text)
-{
-	return count(text) > 0;
-}
-
 std::vector<std::string> LogCapture::matching(const std::string& start, const std::string& text)
 {
 	std::vector<std::string> result;

@@ -25,9 +25,6 @@ public:
 	/// Number of captured lines that contain text.
 	static int count(const std::string& text);
 
-	/// True when a captured line contains text.
-	static bool contains(const std::string& text);
-
 	/// The captured lines that begin with start and contain text: matching("ERROR ") gives the error lines.
 	static std::vector<std::string> matching(const std::string& start, const std::string& text = "");
 

@@ -38,8 +38,7 @@ protected:
 		return ZelNumberingRules::getInstance();
 	}
 
-	/// A site in country with its capital's area code and external prefix 9 (0 would make numbers with a
-	/// trunk prefix ambiguous in the open plans).
+	/// External prefix 9: 0 would make numbers with a trunk prefix ambiguous in the open plans.
 	static ZelDialRulesItem site(const std::string& country, const std::string& areaCode)
 	{
 		return ZelDialRulesItem(country, "9", 5, areaCode, 0, "");
