@@ -9,7 +9,6 @@
 #include "Poco/Exception.h"
 #include "Poco/Util/PropertyFileConfiguration.h"
 
-#include <cstdio>
 #include <exception>
 
 namespace numbering {
@@ -18,6 +17,15 @@ namespace {
 
 /// Highest index of an "AC_%04d" key.
 const int LAST_AREA_CODE_INDEX = 9998;
+
+/// Writes index into the four digits that end key: "AC_0000" becomes "AC_0042" for 42. Thousands of keys are
+/// read per table, and rewriting four characters costs a fraction of formatting each key anew.
+void setKeyIndex(std::string& key, int index)
+{
+	const std::string::size_type digits = 4;
+	for (std::string::size_type i = key.size(); i-- > key.size() - digits; index /= 10)
+		key[i] = static_cast<char>('0' + index % 10);
+}
 
 std::string digitsOf(const std::string& value)
 {
@@ -89,12 +97,21 @@ ZelAreaCodeTablePlan::~ZelAreaCodeTablePlan() = default;
 void ZelAreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& table)
 {
 	if (table.has("Translate")) m_Translate = table.getString("Translate") == "1";
-	char key[16];
+	std::string key = "AC_0000";
 	for (int index = 0; index <= LAST_AREA_CODE_INDEX; ++index)
 	{
-		std::snprintf(key, sizeof(key), "AC_%04d", index);
-		if (!table.has(key)) break;
-		const std::string areaCode = digitsOf(table.getString(key));
+		setKeyIndex(key, index);
+		std::string value;
+		try
+		{
+			value = table.getString(key);
+		}
+		catch (const Poco::NotFoundException&)
+		{
+			// The first missing key ends the table; asking has() first would search every key twice.
+			break;
+		}
+		const std::string areaCode = digitsOf(value);
 		// An entry without any digit is skipped; the entries after it are still read.
 		if (areaCode.empty()) continue;
 		if (static_cast<int>(areaCode.size()) > m_MaxAreaCodeLength)
