@@ -24,10 +24,23 @@ struct CanonicalParts
 	std::string::size_type subscriber;
 };
 
-/// Only a number with both parentheses is laid out; any other is logged and left alone.
-bool canLayOut(Logger* logger, const std::string& canonical)
+/// Where the first "(" and the first ")" of a canonical number stand, looked up once for the whole layout.
+struct Brackets
 {
-	if (canonical.find(')') != std::string::npos && canonical.find('(') != std::string::npos) return true;
+	explicit Brackets(const std::string& canonical):
+		open(canonical.find('(')),
+		close(canonical.find(')'))
+	{
+	}
+
+	std::string::size_type open;
+	std::string::size_type close;
+};
+
+/// Only a number with both parentheses is laid out; any other is logged and left alone.
+bool canLayOut(Logger* logger, const std::string& canonical, const Brackets& brackets)
+{
+	if (brackets.open != std::string::npos && brackets.close != std::string::npos) return true;
 	if (Logger::m_Traces) logger->debug("Can't apply pattern to number : '" + canonical + "'");
 	return false;
 }
@@ -47,10 +60,10 @@ std::string collectUntil(const std::string& canonical, std::string::size_type fr
 
 /// The country up to the first blank, the area inside the parentheses, and the subscriber part's start two
 /// characters after the first ")"; that start may lie beyond the end.
-CanonicalParts readParts(const std::string& canonical)
+CanonicalParts readParts(const std::string& canonical, const Brackets& brackets)
 {
 	return CanonicalParts{collectUntil(canonical, 1, ' ', COUNTRY_CAPACITY),
-		collectUntil(canonical, canonical.find('(') + 1, ')', AREA_CAPACITY), canonical.find(')') + 2};
+		collectUntil(canonical, brackets.open + 1, ')', AREA_CAPACITY), brackets.close + 2};
 }
 
 /// False when the area is only the country's trunk prefix, as in "(0)", or when a known country has no rule.
@@ -64,9 +77,10 @@ bool showsArea(ZelNumberingConfig* config, const CanonicalParts& parts)
 
 /// "C" country, "A" area, "a" area unless it is the trunk prefix, "x" one subscriber character (a blank is
 /// used up but not printed); other characters are copied. Subscriber characters left over follow at the end.
-std::string layOut(ZelNumberingConfig* config, const std::string& canonical, const std::string& pattern)
+std::string layOut(
+	ZelNumberingConfig* config, const std::string& canonical, const Brackets& brackets, const std::string& pattern)
 {
-	const CanonicalParts parts = readParts(canonical);
+	const CanonicalParts parts = readParts(canonical, brackets);
 	std::string::size_type rest = parts.subscriber;
 	std::string result;
 	result.reserve(LAYOUT_CAPACITY);
@@ -140,18 +154,18 @@ std::string ZelNumberingRules::generateDefaultCanonicalNumber(
 std::string ZelNumberingRules::formatCanonicalNumber(std::string canonicalNumber, std::string pattern)
 {
 	if (Logger::m_Traces) logger->debug("formatCanonicalNumber('" + canonicalNumber + "', '" + pattern + "')");
-	if (!canLayOut(logger, canonicalNumber)) return canonicalNumber;
+	const Brackets brackets(canonicalNumber);
+	if (!canLayOut(logger, canonicalNumber, brackets)) return canonicalNumber;
 	try
 	{
 		if (pattern.empty())
 		{
-			const std::string::size_type open = canonicalNumber.find('(');
-			std::string country = canonicalNumber.substr(1, open - 1);
+			std::string country = canonicalNumber.substr(1, brackets.open - 1);
 			Poco::trimInPlace(country);
 			pattern = config->getDefaultPattern(std::move(country));
 			if (pattern.empty()) return canonicalNumber;
 		}
-		return layOut(config, canonicalNumber, pattern);
+		return layOut(config, canonicalNumber, brackets, pattern);
 	}
 	catch (...)
 	{
@@ -164,12 +178,13 @@ std::string ZelNumberingRules::formatCanonicalNumber(std::string canonicalNumber
 std::string ZelNumberingRules::formatToGSMCanonicalNumber(std::string canonicalNumber)
 {
 	if (Logger::m_Traces) logger->debug("formatToGSMCanonicalNumber('" + canonicalNumber + "'");
-	if (!canLayOut(logger, canonicalNumber)) return canonicalNumber;
+	const Brackets brackets(canonicalNumber);
+	if (!canLayOut(logger, canonicalNumber, brackets)) return canonicalNumber;
 	// Service codes marked "***" pass through as they are.
 	if (canonicalNumber.find("***") != std::string::npos) return canonicalNumber;
 	try
 	{
-		CanonicalParts parts = readParts(canonicalNumber);
+		CanonicalParts parts = readParts(canonicalNumber, brackets);
 		ZelNumberingConfig* configuration = ZelNumberingConfig::getInstance();
 		ZelCountryRuleItem* rule =
 			configuration->getCountryRule(configuration->getCountryCodeFromNumber(parts.country));
