@@ -82,7 +82,7 @@ std::string dialWithExternalPrefix(
 	}
 	else
 	{
-		number = Poco::trim(number);
+		Poco::trimInPlace(number);
 		if (!ZelRulesSupport::isCanonical(number))
 		{
 			return rules.checkPhoneNumber(number);

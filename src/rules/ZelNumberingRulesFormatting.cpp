@@ -128,9 +128,10 @@ std::string ZelNumberingRules::generateDefaultCanonicalNumber(
 		logger->debug("generateDefaultCanonicalNumber('" + number + "', '" + countryCode + "', '" + areaCode + "')");
 	}
 	std::string result;
-	if (!number.empty() && !countryCode.empty() && config->validCountryCode(countryCode))
+	// The country's one record answers for the code's validity, its prefixes and its number.
+	ZelCountryRuleItem* rule = number.empty() || countryCode.empty() ? nullptr : config->getCountryRule(countryCode);
+	if (rule != nullptr)
 	{
-		ZelCountryRuleItem* rule = config->getCountryRule(countryCode);
 		const std::string trunk = rule->getLongDistPrefix();
 		// A country that dials no area code on long-distance calls shows none.
 		if (rule->getLongDistRule().find('F') == std::string::npos) areaCode.clear();
@@ -144,7 +145,7 @@ std::string ZelNumberingRules::generateDefaultCanonicalNumber(
 			removePrefix(number, areaCode);
 		else
 			areaCode = trunk;
-		const std::string country = "+" + config->getCountryNumber(countryCode);
+		const std::string country = "+" + rule->getCountryNumber();
 		result = areaCode.empty() ? country + " " + number : country + " (" + areaCode + ") " + number;
 	}
 	if (Logger::m_Traces) logger->debug("generateDefaultCanonicalNumber result : '" + result + "'");

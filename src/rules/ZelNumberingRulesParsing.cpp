@@ -173,8 +173,9 @@ ZelClid* ZelNumberingRules::makeClid(ZelDialRulesItem* item, std::string number)
 	const std::string countryNumber = extractCountryNumberFromCanonicalNumber(canonical);
 	const std::string area = extractAreaCodeOrNatPrefixFromCanonicalNumber(canonical);
 	const std::string subscriber = extractExtensionFromCanonicalNumber(canonical);
-	const std::string siteCountryNumber = config->getCountryNumber(item->getCountryId());
-	const std::string ld = ZelRulesSupport::requireCountryRule(config, item->getCountryId())->getLongDistPrefix();
+	ZelCountryRuleItem* siteRule = ZelRulesSupport::requireCountryRule(config, item->getCountryId());
+	const std::string siteCountryNumber = siteRule->getCountryNumber();
+	const std::string ld = siteRule->getLongDistPrefix();
 	if (countryNumber != siteCountryNumber)
 	{
 		// Other countries' numbers are given without "+" or international prefix; a national prefix in the
