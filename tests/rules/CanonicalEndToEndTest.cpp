@@ -199,11 +199,7 @@ TEST_P(MakeClidTest, TellsWhereTheCallerIs)
 
 INSTANTIATE_TEST_SUITE_P(Origins,
 	MakeClidTest,
-	::testing::Values(ClidCase{"Extension", "Berlin", "1234", "1234", &ZelEnumOrigin::PRIVATE_1},
-		ClidCase{"SameArea", "Berlin", "030 1234567", "1234567", &ZelEnumOrigin::PUBLIC_1},
-		ClidCase{"OtherArea", "Berlin", "089 12345678", "8912345678", &ZelEnumOrigin::NATIONAL},
-		ClidCase{"TrunkPrefixAsArea", "Rome", "0612345678", "612345678", &ZelEnumOrigin::NATIONAL},
-		ClidCase{"Abroad", "Berlin", "+34 91 123 4567", "34911234567", &ZelEnumOrigin::INTERNATIONAL},
+	::testing::Values(ClidCase{"TrunkPrefixAsArea", "Rome", "0612345678", "612345678", &ZelEnumOrigin::NATIONAL},
 		ClidCase{
 			"AbroadTrunkPrefixDropped", "Berlin", "0039 06 1234 5678", "390612345678", &ZelEnumOrigin::INTERNATIONAL}),
 	RowName());
