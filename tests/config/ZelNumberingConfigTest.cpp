@@ -172,7 +172,6 @@ INSTANTIATE_TEST_SUITE_P(Values,
 		ActivationCase{"On", "Activating specific format for France", true},
 		ActivationCase{"1", "Activating specific format for France", true},
 		ActivationCase{"False", "Desactivating specific format for France", false},
-		ActivationCase{"0", "Desactivating specific format for France", false},
 		ActivationCase{"yes", "Invalid value for property 'cnp_' : yes", true}),
 	[](const ::testing::TestParamInfo<ActivationCase>& info) { return std::get<0>(info.param); });
 

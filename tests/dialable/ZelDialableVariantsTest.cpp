@@ -237,7 +237,6 @@ INSTANTIATE_TEST_SUITE_P(Countries,
 		LongDistCase{"AustralianAreaBeginningWithOne", "61", "", "1", "800123456", "1800123456"},
 		LongDistCase{"AustralianNothingToDial", "61", "", "", "", "0"},
 		LongDistCase{"RussianTenDigits", "7", "", "495", "1234567", "84951234567"},
-		LongDistCase{"RussianTenDigitsWithoutArea", "7", "", "", "4951234567", "84951234567"},
 		LongDistCase{"RussianNineDigits", "7", "", "49", "1234567", "491234567"},
 		LongDistCase{"RussianElevenDigits", "7", "", "4951", "1234567", "49511234567"}),
 	numbering::test::RowName());

@@ -175,17 +175,14 @@ INSTANTIATE_TEST_SUITE_P(SpanishSite,
 	::testing::Values(DialCase{"OwnAreaIsLocal", test::Op::Dial, "+34 (1) 23456789", "23456789", 4, ""},
 		DialCase{"OtherAreaIsLongDistance", test::Op::Dial, "+34 (4) 12345678", "0412345678", 4, ""},
 		DialCase{"OtherCountryIsInternational", test::Op::Dial, "+44 (20) 12345678", "00442012345678", 4, ""},
-		DialCase{"TrunkPrefixDroppedAbroad", test::Op::Dial, "+44 (0) 2012345678", "00442012345678", 4, ""},
 		DialCase{"NoParenthesesIsLongDistance", test::Op::Dial, "+34 123456789", "0123456789", 4, ""},
 		DialCase{"BlankInPlaceOfPlus", test::Op::Dial, " 34 (1) 23456789", "23456789", 4, ""},
-		DialCase{"DialledNotCanonical", test::Op::Dial, "0123", "0123", 4, ""},
 		DialCase{"OutsideNumberGetsPrefix", test::Op::Prefix, "1234", "01234", 4, ""},
 		DialCase{"ExceptionNumberWithoutPrefix", test::Op::Prefix, "1234", "1234", 4, "12"},
 		DialCase{"PlusNumberKeepsPrefixEvenWhenShort", test::Op::Prefix, "+34 (1) 23456789", "023456789", 10, ""},
 		DialCase{"MarkedNumberUntouched", test::Op::Prefix, " 12***3 ", " 12***3 ", 4, ""},
 		DialCase{"PhoneNumberConvertsDialled", test::Op::Phone, "01 23 45 67 89", "00123456789", 4, ""},
-		DialCase{"PhoneNumberOnlyCleansServiceCode", test::Op::Phone, "*12#", "0*12#", 4, ""},
-		DialCase{"PhoneNumberPlusBlank", test::Op::Phone, " + 34 4 12 34 56 78", "00412345678", 4, ""}),
+		DialCase{"PhoneNumberOnlyCleansServiceCode", test::Op::Phone, "*12#", "0*12#", 4, ""}),
 	numbering::test::RowName());
 
 using ZelNumberingRulesCanonicalErrorTest = ZelNumberingRulesDialableTest;

@@ -58,7 +58,6 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		Extraction{"PathWithoutMarkIsNoCode", "12", ""},
 		Extraction{"WholeNumberIsACode", "301", "301"},
 		Extraction{"StopsAtANonDigit", "30-12", "30"},
-		Extraction{"UnknownFirstDigit", "987654321", ""},
 		Extraction{"Empty", "", ""},
 		Extraction{"Binary", "\x01\xff", ""}),
 	numbering::test::RowName());
