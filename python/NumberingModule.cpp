@@ -9,9 +9,6 @@
 #include "LogForwarder.h"
 #include "Site.h"
 
-#include "Poco/Exception.h"
-
-#include <exception>
 #include <memory>
 #include <optional>
 #include <pybind11/pybind11.h>
@@ -123,19 +120,6 @@ std::vector<std::tuple<std::string, std::string, std::string>> countries()
 	});
 }
 
-/// Poco's what() is the exception's name only; its display text carries the message.
-void translatePocoException(std::exception_ptr exception)
-{
-	try
-	{
-		if (exception) std::rethrow_exception(exception);
-	}
-	catch (const Poco::Exception& e)
-	{
-		PyErr_SetString(PyExc_RuntimeError, e.displayText().c_str());
-	}
-}
-
 void defineSite(py::module_& module)
 {
 	py::class_<Site>(module, "Site",
@@ -164,7 +148,6 @@ PYBIND11_MODULE(_numbering, module)
 	numbering::python::LogForwarder::install();
 	py::register_exception<numbering::ZelUnsupportedCountryException>(
 		module, "UnsupportedCountryError", PyExc_ValueError);
-	py::register_exception_translator(&translatePocoException);
 	defineSite(module);
 
 	module.def(
