@@ -140,16 +140,8 @@ void defineSite(py::module_& module)
 		.def(py::pickle(&fieldsOf, [](const SiteFields& fields) { return std::apply(makeSite, fields); }));
 }
 
-} // namespace
-
-PYBIND11_MODULE(_numbering, module)
+void defineConversions(py::module_& module)
 {
-	module.doc() = "Telephone number conversion by libNumbering";
-	numbering::python::LogForwarder::install();
-	py::register_exception<numbering::ZelUnsupportedCountryException>(
-		module, "UnsupportedCountryError", PyExc_ValueError);
-	defineSite(module);
-
 	module.def(
 		"canonical",
 		[](const Site& site, const std::string& number, const std::string& pattern) {
@@ -189,7 +181,10 @@ PYBIND11_MODULE(_numbering, module)
 		"The list of what(site, number) for every str of the iterable numbers, converted without a Python call "
 		"per number and without the GIL: what is \"canonical\" (laid out by pattern), \"gsm\", \"dial\", "
 		"\"clid\", \"parse\" or \"check\". The first exception of a conversion ends the run.");
+}
 
+void defineCountryQueries(py::module_& module)
+{
 	module.def("countries", &countries, Release(), "(name, code, calling number) of every configured country.");
 	module.def(
 		"country_code",
@@ -216,7 +211,10 @@ PYBIND11_MODULE(_numbering, module)
 				[&](ZelNumberingRules&) { return ZelNumberingConfig::getInstance()->getCountryNumber(code); });
 		},
 		py::arg("code"), Release(), "The calling number of a country code (\"FR\" gives \"33\"), or \"\".");
+}
 
+void defineLibraryControl(py::module_& module)
+{
 	module.def("set_config_directory", &Library::setConfigDirectory, py::arg("directory"), Release(),
 		"Reads the configuration files from directory from now on: the library is reset, and the next call reads "
 		"the files again. Waits for the conversions in progress.");
@@ -230,4 +228,18 @@ PYBIND11_MODULE(_numbering, module)
 		"Switches the library's debug lines on or off. Every line goes to the logger \"numbering\" of Python's "
 		"logging, debug lines at DEBUG, the others at INFO and ERROR.");
 	module.def("traces", &Library::traces, Release(), "Whether the library writes its debug lines.");
+}
+
+} // namespace
+
+PYBIND11_MODULE(_numbering, module)
+{
+	module.doc() = "Telephone number conversion by libNumbering";
+	numbering::python::LogForwarder::install();
+	py::register_exception<numbering::ZelUnsupportedCountryException>(
+		module, "UnsupportedCountryError", PyExc_ValueError);
+	defineSite(module);
+	defineConversions(module);
+	defineCountryQueries(module);
+	defineLibraryControl(module);
 }
