@@ -10,22 +10,22 @@
 namespace numbering {
 namespace python {
 
-std::shared_mutex Library::s_Mutex;
-bool Library::s_WarmedUp = false;
+std::shared_mutex Library::m_Mutex;
+bool Library::m_WarmedUp = false;
 
 std::shared_lock<std::shared_mutex> Library::lockWarmedUp()
 {
 	for (;;)
 	{
-		std::shared_lock<std::shared_mutex> shared(s_Mutex);
-		if (s_WarmedUp) return shared;
+		std::shared_lock<std::shared_mutex> shared(m_Mutex);
+		if (m_WarmedUp) return shared;
 		shared.unlock();
 		// Another thread may warm up or reset between the two locks: look again under the shared one.
-		const std::unique_lock<std::shared_mutex> exclusive(s_Mutex);
-		if (!s_WarmedUp)
+		const std::unique_lock<std::shared_mutex> exclusive(m_Mutex);
+		if (!m_WarmedUp)
 		{
 			warmUp();
-			s_WarmedUp = true;
+			m_WarmedUp = true;
 		}
 	}
 }
@@ -44,27 +44,27 @@ void Library::warmUp()
 
 void Library::setConfigDirectory(const std::string& directory)
 {
-	const std::unique_lock<std::shared_mutex> lock(s_Mutex);
+	const std::unique_lock<std::shared_mutex> lock(m_Mutex);
 	ZelNumberingRules::resetInstance();
 	ZelNumberingConfig::setConfigDirectory(directory);
-	s_WarmedUp = false;
+	m_WarmedUp = false;
 }
 
 std::string Library::configDirectory()
 {
-	const std::shared_lock<std::shared_mutex> lock(s_Mutex);
+	const std::shared_lock<std::shared_mutex> lock(m_Mutex);
 	return ZelNumberingConfig::getConfigDirectory();
 }
 
 void Library::setTraces(bool on)
 {
-	const std::unique_lock<std::shared_mutex> lock(s_Mutex);
+	const std::unique_lock<std::shared_mutex> lock(m_Mutex);
 	Logger::m_Traces = on;
 }
 
 bool Library::traces()
 {
-	const std::shared_lock<std::shared_mutex> lock(s_Mutex);
+	const std::shared_lock<std::shared_mutex> lock(m_Mutex);
 	return Logger::m_Traces;
 }
 

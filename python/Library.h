@@ -47,8 +47,8 @@ private:
 	/// Creates the facade and makes one phone number of every configured country.
 	static void warmUp();
 
-	static std::shared_mutex s_Mutex;
-	static bool s_WarmedUp;
+	static std::shared_mutex m_Mutex;
+	static bool m_WarmedUp;
 };
 
 } // namespace python

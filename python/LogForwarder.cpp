@@ -26,16 +26,16 @@ const Level LEVELS[] = {{"DEBUG ", DEBUG}, {"INFO ", INFO}, {"ERROR ", ERROR}};
 
 } // namespace
 
-py::object* LogForwarder::s_Logger = nullptr;
+py::object* LogForwarder::m_Logger = nullptr;
 
 void LogForwarder::install()
 {
-	s_Logger = new py::object(py::module_::import("logging").attr("getLogger")("numbering"));
+	m_Logger = new py::object(py::module_::import("logging").attr("getLogger")("numbering"));
 }
 
 void LogForwarder::write(const char* text)
 {
-	if (s_Logger == nullptr || !Py_IsInitialized() || _Py_IsFinalizing()) return;
+	if (m_Logger == nullptr || !Py_IsInitialized() || _Py_IsFinalizing()) return;
 	int level = INFO;
 	for (const Level& candidate : LEVELS)
 	{
@@ -49,7 +49,7 @@ void LogForwarder::write(const char* text)
 	const py::gil_scoped_acquire gil;
 	try
 	{
-		s_Logger->attr("log")(level, text);
+		m_Logger->attr("log")(level, text);
 	}
 	catch (py::error_already_set& error)
 	{

@@ -23,7 +23,7 @@ public:
 
 private:
 	/// Never freed: a Python object must not be released after the interpreter has gone.
-	static pybind11::object* s_Logger;
+	static pybind11::object* m_Logger;
 };
 
 } // namespace python
