@@ -12,7 +12,7 @@ fi
 
 cd "$root"
 directories=()
-for directory in include src tests tools bench fuzz; do
+for directory in include src tests tools bench fuzz python; do
 	[ -d "$directory" ] && directories+=("$directory")
 done
 mapfile -t files < <(find "${directories[@]}" -type f \( -name '*.h' -o -name '*.cpp' \) | LC_ALL=C sort)

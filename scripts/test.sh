@@ -13,6 +13,6 @@ build="${NUMBERING_BUILD_DIR:-$root/build}"
 "$root/scripts/fuzz.sh"
 
 rm -rf "$build"
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCHMARKS=ON
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNUMBERING_BUILD_BENCHMARKS=ON -DNUMBERING_PYTHON=ON
 cmake --build "$build" --parallel "$(nproc)"
 ctest --test-dir "$build" --output-on-failure --parallel "$(nproc)"
