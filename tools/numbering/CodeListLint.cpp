@@ -1,0 +1,153 @@
+// CodeListLint.cpp
+
+#include "CodeListLint.h"
+
+#include "Poco/NumberFormatter.h"
+
+#include <algorithm>
+
+namespace numbering {
+namespace tool {
+
+namespace {
+
+const int LAST_INDEX = 9998;
+const int INDEX_WIDTH = 4;
+/// Characters people write inside codes for readability; the library drops them with the rest.
+const std::string LAYOUT = " -./()";
+
+bool isDigit(char c)
+{
+	return c >= '0' && c <= '9';
+}
+
+std::string quoted(const std::string& text)
+{
+	return "'" + text + "'";
+}
+
+} // namespace
+
+CodeListLint::CodeListLint(
+	const ConfigFile& file, const std::string& keyPrefix, EmptyCode emptyCode, LintReport& report):
+	m_File(file),
+	m_KeyPrefix(keyPrefix),
+	m_EmptyCode(emptyCode),
+	m_Report(report)
+{
+	int index = 0;
+	while (index <= LAST_INDEX && readEntry(index))
+		++index;
+}
+
+void CodeListLint::reportUnreadKeys(const std::string& settingKey) const
+{
+	Poco::Util::AbstractConfiguration::Keys keys;
+	m_File.properties().keys(keys);
+	for (const std::string& key : keys)
+	{
+		if (key == settingKey || indexOf(key) >= 0) continue;
+		m_File.add(m_Report, key, LintReport::SKIPPED,
+			"never read: the library reads " + settingKey + " and " + keyOf(0) + " to " + keyOf(LAST_INDEX));
+	}
+}
+
+const std::vector<std::pair<std::string, std::string>>& CodeListLint::storedCodes() const
+{
+	return m_Stored;
+}
+
+bool CodeListLint::readEntry(int index)
+{
+	const std::string key = keyOf(index);
+	if (!m_File.properties().has(key))
+	{
+		const std::pair<int, std::string> unread = unreadAfter(index);
+		if (unread.first > 0)
+		{
+			m_File.add(m_Report, unread.second, LintReport::SKIPPED,
+				key + " is missing: the list ends there, and the " + std::to_string(unread.first) +
+					" entries from here on are never read");
+		}
+		return false;
+	}
+	const std::string value = m_File.properties().getString(key);
+	std::string code;
+	std::copy_if(value.begin(), value.end(), std::back_inserter(code), isDigit);
+	if (code.empty() && m_EmptyCode == ENDS_LIST)
+	{
+		m_File.add(m_Report, key, LintReport::SKIPPED,
+			quoted(value) + " holds no digit: the list ends here, and the " + std::to_string(unreadAfter(index).first) +
+				" entries after it are never read");
+		return false;
+	}
+	if (code.empty())
+		m_File.add(m_Report, key, LintReport::SKIPPED, quoted(value) + " holds no digit: the entry is skipped");
+	else if (code != value)
+	{
+		const bool layoutOnly = std::all_of(
+			value.begin(), value.end(), [](char c) { return isDigit(c) || LAYOUT.find(c) != std::string::npos; });
+		m_File.add(m_Report, key, layoutOnly ? LintReport::STYLE : LintReport::MISREAD,
+			quoted(value) + " is read as " + quoted(code));
+	}
+	if (!code.empty()) store(key, code);
+	return true;
+}
+
+void CodeListLint::store(const std::string& key, const std::string& code)
+{
+	auto same = m_KeyOfCode.find(code);
+	auto longer = m_KeyOfCode.lower_bound(code);
+	if (same != m_KeyOfCode.end())
+	{
+		m_File.add(m_Report, key, LintReport::REFUSED,
+			quoted(code) + " is refused: " + same->second + " (line " + std::to_string(m_File.lineOf(same->second)) +
+				") has it already");
+	}
+	else if (longer != m_KeyOfCode.end() && longer->first.compare(0, code.size(), code) == 0)
+	{
+		m_File.add(m_Report, key, LintReport::REFUSED,
+			quoted(code) + " is refused: it begins " + quoted(longer->first) + " of " + longer->second + " (line " +
+				std::to_string(m_File.lineOf(longer->second)) +
+				"), and a code that begins a stored one is never stored");
+	}
+	else
+	{
+		m_KeyOfCode.emplace(code, key);
+		m_Stored.emplace_back(code, key);
+	}
+}
+
+int CodeListLint::indexOf(const std::string& key) const
+{
+	const std::string::size_type digits = m_KeyPrefix.size();
+	if (key.size() != digits + INDEX_WIDTH || key.compare(0, digits, m_KeyPrefix) != 0) return -1;
+	if (!std::all_of(key.begin() + digits, key.end(), isDigit)) return -1;
+	const int index = std::stoi(key.substr(digits));
+	return index <= LAST_INDEX ? index : -1;
+}
+
+std::pair<int, std::string> CodeListLint::unreadAfter(int index) const
+{
+	Poco::Util::AbstractConfiguration::Keys keys;
+	m_File.properties().keys(keys);
+	std::pair<int, std::string> unread(0, "");
+	int first = LAST_INDEX + 1;
+	for (const std::string& key : keys)
+	{
+		const int other = indexOf(key);
+		if (other <= index) continue;
+		++unread.first;
+		if (other < first) unread.second = key;
+		first = std::min(first, other);
+	}
+	return unread;
+}
+
+std::string CodeListLint::keyOf(int index) const
+{
+	return m_KeyPrefix + Poco::NumberFormatter::format0(index, INDEX_WIDTH);
+}
+
+} // namespace tool
+} // namespace numbering
