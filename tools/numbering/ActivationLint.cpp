@@ -5,6 +5,7 @@
 #include "PlanCountries.h"
 
 #include "Poco/File.h"
+#include "Poco/Path.h"
 #include "Poco/String.h"
 
 #include <algorithm>

@@ -48,7 +48,8 @@ void CodeListLint::reportUnreadKeys(const std::string& settingKey) const
 	{
 		if (key == settingKey || indexOf(key) >= 0) continue;
 		m_File.add(m_Report, key, LintReport::SKIPPED,
-			"never read: the library reads " + settingKey + " and " + keyOf(0) + " to " + keyOf(LAST_INDEX));
+			quoted(key) + " is never read: the library reads only " + settingKey + " and " + keyOf(0) + " to " +
+				keyOf(LAST_INDEX));
 	}
 }
 
@@ -66,8 +67,8 @@ bool CodeListLint::readEntry(int index)
 		if (unread.first > 0)
 		{
 			m_File.add(m_Report, unread.second, LintReport::SKIPPED,
-				key + " is missing: the list ends there, and the " + std::to_string(unread.first) +
-					" entries from here on are never read");
+				key + " is missing, so the list ends there: this entry and those after it are never read (" +
+					std::to_string(unread.first) + " in all)");
 		}
 		return false;
 	}
@@ -76,9 +77,10 @@ bool CodeListLint::readEntry(int index)
 	std::copy_if(value.begin(), value.end(), std::back_inserter(code), isDigit);
 	if (code.empty() && m_EmptyCode == ENDS_LIST)
 	{
+		const int unread = unreadAfter(index).first;
 		m_File.add(m_Report, key, LintReport::SKIPPED,
-			quoted(value) + " holds no digit: the list ends here, and the " + std::to_string(unreadAfter(index).first) +
-				" entries after it are never read");
+			quoted(value) + " holds no digit, so the list ends here" +
+				(unread > 0 ? ": the entries after it are never read (" + std::to_string(unread) + " in all)" : ""));
 		return false;
 	}
 	if (code.empty())

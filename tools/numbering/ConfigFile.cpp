@@ -118,10 +118,13 @@ void ConfigFile::walkAsLoader(LintReport& report, const Visit& visit) const
 		}
 		catch (const Poco::Exception& e)
 		{
+			const std::size_t unread = keys.size() - i - 1;
 			report.add(m_Path, m_Lines.lineOfKeyOrChild(keys[i]), LintReport::SKIPPED,
 				"the loader sees this key as '" + keys[i] + "' and cannot read it (" + e.displayText() +
-					"): it stops here, and the " + std::to_string(keys.size() - i - 1) +
-					" keys after it in key order are not read");
+					"), so it stops here" +
+					(unread > 0
+							? ": the keys after it in key order are not read (" + std::to_string(unread) + " in all)"
+							: ""));
 			return;
 		}
 		visit(keys[i], value);
