@@ -105,7 +105,7 @@ void ConfigFile::reportFiles(LintReport& report) const
 				"'" + key + "' is written again on line " + std::to_string(lines.back()) + ": only that entry is read");
 }
 
-void ConfigFile::walkAsLoader(LintReport& report, const Visit& visit) const
+bool ConfigFile::walkAsLoader(LintReport& report, const Visit& visit) const
 {
 	Poco::Util::AbstractConfiguration::Keys keys;
 	m_Properties->keys(keys);
@@ -125,10 +125,11 @@ void ConfigFile::walkAsLoader(LintReport& report, const Visit& visit) const
 					(unread > 0
 							? ": the keys after it in key order are not read (" + std::to_string(unread) + " in all)"
 							: ""));
-			return;
+			return false;
 		}
 		visit(keys[i], value);
 	}
+	return true;
 }
 
 void ConfigFile::add(

@@ -50,8 +50,8 @@ public:
 
 	/// Walks the top-level keys in the order the configuration loaders do and hands each with its value to
 	/// visit. A key the loaders cannot read (one with a "." is seen only up to it) ends the walk as it ends
-	/// theirs: that is reported with the number of keys left unread.
-	void walkAsLoader(LintReport& report, const Visit& visit) const;
+	/// theirs: that is reported with the number of keys left unread, and false returned.
+	bool walkAsLoader(LintReport& report, const Visit& visit) const;
 
 	/// Adds one finding at key's line.
 	void add(LintReport& report, const std::string& key, LintReport::Effect effect, const std::string& text) const;

@@ -47,7 +47,13 @@ DialingRulesLint::DialingRulesLint(const ConfigFile& file, LintReport& report):
 	m_File(file),
 	m_Report(report)
 {
-	file.walkAsLoader(report, [this](const std::string& key, const std::string& value) { checkLine(key, value); });
+	const bool walked =
+		file.walkAsLoader(report, [this](const std::string& key, const std::string& value) { checkLine(key, value); });
+	if (!walked)
+	{
+		report.add(file.path(), 0, LintReport::MISSING,
+			"loading fails, so the library lists no country: look-ups by name and the numbering tool find none");
+	}
 	for (const auto& [number, countries] : m_Countries)
 		checkPrincipals(number, countries);
 }
