@@ -31,6 +31,11 @@ bool isDigits(const std::string& text)
 	return std::all_of(text.begin(), text.end(), isDigit);
 }
 
+bool isCountryNumber(const std::string& number)
+{
+	return !number.empty() && number.size() <= LONGEST_COUNTRY_NUMBER && isDigits(number);
+}
+
 bool has(const std::string& text, char c)
 {
 	return text.find(c) != std::string::npos;
@@ -87,15 +92,13 @@ void DialingRulesLint::checkLine(const std::string& key, const std::string& valu
 	const std::string& flag = fields[6];
 	if (!flag.empty() && flag != PRINCIPAL)
 		m_File.add(m_Report, key, LintReport::MISREAD, "principal flag " + quoted(flag) + " is not 'P' and is ignored");
-	if (number.empty() || number.size() > LONGEST_COUNTRY_NUMBER || !isDigits(number))
+	m_Countries[number].push_back({key, flag == PRINCIPAL});
+	if (!isCountryNumber(number))
 	{
 		m_File.add(m_Report, key, LintReport::UNUSED,
 			"country number " + quoted(number) +
-				" is not 1 to 3 digits: no number is ever recognised as this "
-				"country's");
-		return;
+				" is not 1 to 3 digits: no number is ever recognised as this country's");
 	}
-	m_Countries[number].push_back({key, flag == PRINCIPAL});
 }
 
 void DialingRulesLint::checkKey(const std::string& key)
@@ -156,6 +159,8 @@ void DialingRulesLint::checkPrincipals(const std::string& number, const std::vec
 	auto first = std::find_if(countries.begin(), countries.end(), [](const Country& c) { return c.principal; });
 	if (first == countries.end())
 	{
+		// A malformed number has its own finding; saying that no line owns it would add nothing.
+		if (!isCountryNumber(number)) return;
 		m_File.add(m_Report, countries.front().key, LintReport::UNUSED,
 			"no line marks country number " + number + " 'P'" +
 				(countries.size() > 1 ? " (" + std::to_string(countries.size()) + " countries have it)" : "") +
