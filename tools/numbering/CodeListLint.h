@@ -42,6 +42,12 @@ private:
 	/// Reads the entry of index; false when the list ends there.
 	bool readEntry(int index);
 
+	/// Reports the entries that a list ending at the missing key of index leaves unread.
+	void reportGap(int index) const;
+
+	/// Reports the entry of index, whose value holds no digit; true when the list goes on after it.
+	bool readsOnAfterEmpty(int index, const std::string& value) const;
+
 	void store(const std::string& key, const std::string& code);
 
 	/// The index of key when it is a key of the list the library can read, else -1.

@@ -83,6 +83,11 @@ const Poco::Util::AbstractConfiguration& ConfigFile::properties() const
 	return *m_Properties;
 }
 
+std::vector<std::string> ConfigFile::keys() const
+{
+	return m_Lines.keys();
+}
+
 int ConfigFile::lineOf(const std::string& key) const
 {
 	return m_Lines.lineOf(key);

@@ -41,6 +41,10 @@ public:
 	/// The file in force's properties; call only when exists().
 	const Poco::Util::AbstractConfiguration& properties() const;
 
+	/// Every key of the file in force as written, "." and all, in key order (the loaders see only the part
+	/// before a ".", a plan sees whole keys).
+	std::vector<std::string> keys() const;
+
 	/// The line of key in the file in force, 0 when it has none.
 	int lineOf(const std::string& key) const;
 

@@ -2,6 +2,7 @@
 
 #include "DialingRulesLint.h"
 
+#include "Poco/Ascii.h"
 #include "Poco/String.h"
 #include "Poco/StringTokenizer.h"
 
@@ -21,14 +22,9 @@ const std::string PRINCIPAL = "P";
 /// written for the reader and changes nothing.
 const std::string RULE_LETTERS = "EFGI";
 
-bool isDigit(char c)
-{
-	return c >= '0' && c <= '9';
-}
-
 bool isDigits(const std::string& text)
 {
-	return std::all_of(text.begin(), text.end(), isDigit);
+	return std::all_of(text.begin(), text.end(), Poco::Ascii::isDigit);
 }
 
 bool isCountryNumber(const std::string& number)
@@ -39,11 +35,6 @@ bool isCountryNumber(const std::string& number)
 bool has(const std::string& text, char c)
 {
 	return text.find(c) != std::string::npos;
-}
-
-std::string quoted(const std::string& text)
-{
-	return "'" + text + "'";
 }
 
 } // namespace
@@ -91,12 +82,13 @@ void DialingRulesLint::checkLine(const std::string& key, const std::string& valu
 	const std::string& number = fields[0];
 	const std::string& flag = fields[6];
 	if (!flag.empty() && flag != PRINCIPAL)
-		m_File.add(m_Report, key, LintReport::MISREAD, "principal flag " + quoted(flag) + " is not 'P' and is ignored");
+		m_File.add(m_Report, key, LintReport::MISREAD,
+			"principal flag " + LintReport::quoted(flag) + " is not 'P' and is ignored");
 	m_Countries[number].push_back({key, flag == PRINCIPAL});
 	if (!isCountryNumber(number))
 	{
 		m_File.add(m_Report, key, LintReport::UNUSED,
-			"country number " + quoted(number) +
+			"country number " + LintReport::quoted(number) +
 				" is not 1 to 3 digits: no number is ever recognised as this country's");
 	}
 }
@@ -106,13 +98,14 @@ void DialingRulesLint::checkKey(const std::string& key)
 	if (key.size() != 2)
 	{
 		m_File.add(m_Report, key, LintReport::UNUSED,
-			quoted(key) + " is not a two-letter country code: no site or look-up by code reaches this line");
+			LintReport::quoted(key) +
+				" is not a two-letter country code: no site or look-up by code reaches this line");
 	}
 	else if (!std::all_of(key.begin(), key.end(), [](char c) { return c >= 'A' && c <= 'Z'; }))
 	{
 		m_File.add(m_Report, key, LintReport::STYLE,
-			quoted(key) + " is not an upper-case ISO 3166 code: sites must name the country " + quoted(key) +
-				" exactly");
+			LintReport::quoted(key) + " is not an upper-case ISO 3166 code: sites must name the country " +
+				LintReport::quoted(key) + " exactly");
 	}
 }
 
@@ -122,12 +115,12 @@ void DialingRulesLint::checkRules(const std::string& key, const std::vector<std:
 	if (!isDigits(prefix))
 	{
 		m_File.add(m_Report, key, LintReport::MISREAD,
-			"international prefix " + quoted(prefix) + " holds non-digits, which are dialled as written");
+			"international prefix " + LintReport::quoted(prefix) + " holds non-digits, which are dialled as written");
 	}
 	if (!has(fields[2], 'E'))
 	{
 		m_File.add(m_Report, key, LintReport::MISREAD,
-			"international rule " + quoted(fields[2]) +
+			"international rule " + LintReport::quoted(fields[2]) +
 				" has no E: calls abroad are dialled without the country "
 				"number");
 	}
@@ -139,18 +132,20 @@ void DialingRulesLint::checkRules(const std::string& key, const std::vector<std:
 
 void DialingRulesLint::checkRule(const std::string& key, const std::string& name, const std::string& rule)
 {
-	auto odd = std::find_if(rule.begin(), rule.end(), [](char c) { return !isDigit(c) && !has(RULE_LETTERS, c); });
+	auto odd = std::find_if(
+		rule.begin(), rule.end(), [](char c) { return !Poco::Ascii::isDigit(c) && !has(RULE_LETTERS, c); });
 	if (odd != rule.end())
 	{
 		m_File.add(m_Report, key, LintReport::MISREAD,
-			name + " rule " + quoted(rule) + " holds " + quoted(std::string(1, *odd)) +
+			name + " rule " + LintReport::quoted(rule) + " holds " + LintReport::quoted(std::string(1, *odd)) +
 				", which the number makers ignore");
 	}
-	const std::string prefix = rule.substr(0, std::find_if_not(rule.begin(), rule.end(), isDigit) - rule.begin());
+	const std::string prefix =
+		rule.substr(0, std::find_if_not(rule.begin(), rule.end(), Poco::Ascii::isDigit) - rule.begin());
 	if (!prefix.empty() && !has(rule, 'F') && !has(rule, 'I'))
 	{
 		m_File.add(m_Report, key, LintReport::MISREAD,
-			name + " rule " + quoted(rule) + " has no F or I: its prefix " + prefix + " is never dialled");
+			name + " rule " + LintReport::quoted(rule) + " has no F or I: its prefix " + prefix + " is never dialled");
 	}
 }
 

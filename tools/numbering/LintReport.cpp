@@ -21,6 +21,11 @@ bool LintReport::isError(Effect effect)
 	return effect != SHADOWED && effect != STYLE;
 }
 
+std::string LintReport::quoted(const std::string& text)
+{
+	return "'" + text + "'";
+}
+
 void LintReport::addFile(const std::string& file)
 {
 	if (std::find(m_Files.begin(), m_Files.end(), file) == m_Files.end()) m_Files.push_back(file);

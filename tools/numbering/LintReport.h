@@ -36,6 +36,9 @@ public:
 	/// True for the effects where the library does something the administrator did not mean.
 	static bool isError(Effect effect);
 
+	/// text in single quotes, as findings quote what a file holds.
+	static std::string quoted(const std::string& text);
+
 	/// Files are written in the order of their first mention here; call it in the order the library reads them.
 	void addFile(const std::string& file);
 

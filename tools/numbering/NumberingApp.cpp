@@ -177,14 +177,14 @@ int NumberingApp::execute(const Command& command, const std::vector<std::string>
 
 int NumberingApp::lint()
 {
-	ConfigurationLint lint(ZelNumberingConfig::getConfigDirectory());
-	if (!lint.foundAny())
+	ConfigurationLint configuration(ZelNumberingConfig::getConfigDirectory());
+	if (!configuration.foundAny())
 	{
 		std::cerr << ConfigurationCheck(installedSampleDirectory()).diagnosis();
 		return NO_CONFIGURATION;
 	}
 	LintReport report;
-	lint.check(report);
+	configuration.check(report);
 	if (m_Site.hasCountry())
 	{
 		std::unique_ptr<ZelDialRulesItem> site;
@@ -196,7 +196,7 @@ int NumberingApp::lint()
 		{
 			return usageError(e.what());
 		}
-		lint.checkRoundTrip(*ZelNumberingRules::getInstance(), *site, report);
+		configuration.checkRoundTrip(*ZelNumberingRules::getInstance(), *site, report);
 	}
 	const std::unique_ptr<ResultWriter> writer =
 		m_Format == "text" ? std::make_unique<LintTextWriter>(LintReport::columns(), std::cout)

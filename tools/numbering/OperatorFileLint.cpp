@@ -4,6 +4,8 @@
 
 #include "CodeListLint.h"
 
+#include "Poco/Ascii.h"
+
 #include <algorithm>
 
 namespace numbering {
@@ -21,7 +23,7 @@ OperatorFileLint::OperatorFileLint(const ConfigFile& file, LintReport& report)
 	if (file.properties().has(OPERATOR_CODE))
 	{
 		const std::string code = file.properties().getString(OPERATOR_CODE);
-		if (code.empty() || !std::all_of(code.begin(), code.end(), [](char c) { return c >= '0' && c <= '9'; }))
+		if (code.empty() || !std::all_of(code.begin(), code.end(), Poco::Ascii::isDigit))
 		{
 			file.add(report, OPERATOR_CODE, LintReport::MISREAD,
 				"operator code '" + code + "' is not digits: long-distance calls dial it as written");

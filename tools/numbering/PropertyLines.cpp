@@ -102,6 +102,14 @@ int PropertyLines::lineOfKeyOrChild(const std::string& key) const
 																							 : 0;
 }
 
+std::vector<std::string> PropertyLines::keys() const
+{
+	std::vector<std::string> all;
+	for (const auto& entry : m_Lines)
+		all.push_back(entry.first);
+	return all;
+}
+
 std::map<std::string, std::vector<int>> PropertyLines::repeatedKeys() const
 {
 	std::map<std::string, std::vector<int>> repeated;

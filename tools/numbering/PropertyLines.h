@@ -30,6 +30,9 @@ public:
 	/// The line of key or, when the file has no such key, of the first entry whose key begins with key + ".".
 	int lineOfKeyOrChild(const std::string& key) const;
 
+	/// Every key of the file, each once, in key order.
+	std::vector<std::string> keys() const;
+
 	/// Every key written more than once, with the lines of its entries in file order.
 	std::map<std::string, std::vector<int>> repeatedKeys() const;
 
