@@ -101,7 +101,7 @@ void DialingRulesLint::checkKey(const std::string& key)
 			LintReport::quoted(key) +
 				" is not a two-letter country code: no site or look-up by code reaches this line");
 	}
-	else if (!std::all_of(key.begin(), key.end(), [](char c) { return c >= 'A' && c <= 'Z'; }))
+	else if (!std::all_of(key.begin(), key.end(), Poco::Ascii::isUpper))
 	{
 		m_File.add(m_Report, key, LintReport::STYLE,
 			LintReport::quoted(key) + " is not an upper-case ISO 3166 code: sites must name the country " +
