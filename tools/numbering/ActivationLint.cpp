@@ -32,10 +32,10 @@ ActivationLint::ActivationLint(
 	m_Directory(directory),
 	m_Report(report)
 {
-	file.walkAsLoader(report, [this](const std::string& key, const std::string& value) { checkSwitch(key, value); });
+	file.walkAsLoader(report, [this](const std::string& key) { checkSwitch(key); });
 }
 
-void ActivationLint::checkSwitch(const std::string& key, const std::string& value)
+void ActivationLint::checkSwitch(const std::string& key)
 {
 	const std::string number =
 		key.compare(0, SWITCH_MARK.size(), SWITCH_MARK) == 0 ? key.substr(SWITCH_MARK.size()) : "";
@@ -50,6 +50,7 @@ void ActivationLint::checkSwitch(const std::string& key, const std::string& valu
 			"no dialing-rules line marks country number " + number + " 'P': the switch is ignored");
 		return;
 	}
+	const std::string value = m_File.valueOf(key);
 	const std::string lowered = Poco::toLower(value);
 	if (isOneOf(lowered, {"true", "on", "1"}))
 		checkSwitchedOn(key, number);

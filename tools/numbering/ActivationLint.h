@@ -25,7 +25,7 @@ public:
 		const ConfigFile& file, const DialingRulesLint* dialingRules, const std::string& directory, LintReport& report);
 
 private:
-	void checkSwitch(const std::string& key, const std::string& value);
+	void checkSwitch(const std::string& key);
 
 	void checkSwitchedOn(const std::string& key, const std::string& number);
 

@@ -88,6 +88,11 @@ std::vector<std::string> ConfigFile::keys() const
 	return m_Lines.keys();
 }
 
+std::string ConfigFile::valueOf(const std::string& key) const
+{
+	return m_Properties->getString(key);
+}
+
 int ConfigFile::lineOf(const std::string& key) const
 {
 	return m_Lines.lineOf(key);
@@ -116,15 +121,14 @@ bool ConfigFile::walkAsLoader(LintReport& report, const Visit& visit) const
 	m_Properties->keys(keys);
 	for (std::size_t i = 0; i < keys.size(); ++i)
 	{
-		std::string value;
 		try
 		{
-			value = m_Properties->getString(keys[i]);
+			visit(keys[i]);
 		}
 		catch (const Poco::Exception& e)
 		{
 			const std::size_t unread = keys.size() - i - 1;
-			report.add(m_Path, m_Lines.lineOfKeyOrChild(keys[i]), LintReport::SKIPPED,
+			report.add(m_Path, lineOf(keys[i]), LintReport::SKIPPED,
 				"the loader sees this key as '" + keys[i] + "' and cannot read it (" + e.displayText() +
 					"), so it stops here" +
 					(unread > 0
@@ -132,7 +136,6 @@ bool ConfigFile::walkAsLoader(LintReport& report, const Visit& visit) const
 							: ""));
 			return false;
 		}
-		visit(keys[i], value);
 	}
 	return true;
 }

@@ -21,8 +21,8 @@ namespace tool {
 class ConfigFile
 {
 public:
-	/// Called with each key and its value.
-	using Visit = std::function<void(const std::string& key, const std::string& value)>;
+	/// Called with each key; reads the value through valueOf where the loader reads it.
+	using Visit = std::function<void(const std::string& key)>;
 
 	ConfigFile(const std::string& sitePath, const std::string& defaultPath);
 
@@ -45,6 +45,9 @@ public:
 	/// before a ".", a plan sees whole keys).
 	std::vector<std::string> keys() const;
 
+	/// The value of key as the library reads it; throws Poco::NotFoundException when there is none.
+	std::string valueOf(const std::string& key) const;
+
 	/// The line of key in the file in force, 0 when it has none.
 	int lineOf(const std::string& key) const;
 
@@ -52,9 +55,9 @@ public:
 	/// and about keys written twice, of which only the last entry is read.
 	void reportFiles(LintReport& report) const;
 
-	/// Walks the top-level keys in the order the configuration loaders do and hands each with its value to
-	/// visit. A key the loaders cannot read (one with a "." is seen only up to it) ends the walk as it ends
-	/// theirs: that is reported with the number of keys left unread, and false returned.
+	/// Walks the top-level keys in the order the configuration loaders do and hands each to visit. A key whose
+	/// value cannot be read (one with a "." is seen only up to it) ends the walk as it ends the loaders': that
+	/// is reported with the number of keys left unread, and false returned.
 	bool walkAsLoader(LintReport& report, const Visit& visit) const;
 
 	/// Adds one finding at key's line.

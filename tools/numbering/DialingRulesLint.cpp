@@ -44,7 +44,7 @@ DialingRulesLint::DialingRulesLint(const ConfigFile& file, LintReport& report):
 	m_Report(report)
 {
 	const bool walked =
-		file.walkAsLoader(report, [this](const std::string& key, const std::string& value) { checkLine(key, value); });
+		file.walkAsLoader(report, [this](const std::string& key) { checkLine(key, m_File.valueOf(key)); });
 	if (!walked)
 	{
 		report.add(file.path(), 0, LintReport::MISSING,

@@ -32,10 +32,10 @@ MaskLint::MaskLint(const ConfigFile& file, const DialingRulesLint* dialingRules,
 	m_DialingRules(dialingRules),
 	m_Report(report)
 {
-	file.walkAsLoader(report, [this](const std::string& key, const std::string& pattern) { checkMask(key, pattern); });
+	file.walkAsLoader(report, [this](const std::string& key) { checkMask(key); });
 }
 
-void MaskLint::checkMask(const std::string& key, const std::string& pattern)
+void MaskLint::checkMask(const std::string& key)
 {
 	const std::string maskKey = maskKeyOf(key);
 	if (maskKey.empty() || maskKey.size() > LONGEST_MASK_KEY)
@@ -43,6 +43,7 @@ void MaskLint::checkMask(const std::string& key, const std::string& pattern)
 		m_File.add(m_Report, key, LintReport::SKIPPED, "not read: mask keys are Mask_<country number>_<anything>");
 		return;
 	}
+	const std::string pattern = m_File.valueOf(key);
 	if (pattern.empty())
 	{
 		m_File.add(m_Report, key, LintReport::SKIPPED, "empty pattern: the line is skipped");

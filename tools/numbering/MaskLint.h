@@ -24,7 +24,7 @@ public:
 	MaskLint(const ConfigFile& file, const DialingRulesLint* dialingRules, LintReport& report);
 
 private:
-	void checkMask(const std::string& key, const std::string& pattern);
+	void checkMask(const std::string& key);
 
 	void checkPattern(const std::string& key, const std::string& pattern);
 

@@ -90,16 +90,10 @@ PropertyLines::PropertyLines(std::istream& in)
 int PropertyLines::lineOf(const std::string& key) const
 {
 	auto found = m_Lines.find(key);
-	return found == m_Lines.end() ? 0 : found->second.back();
-}
-
-int PropertyLines::lineOfKeyOrChild(const std::string& key) const
-{
-	const int line = lineOf(key);
-	if (line != 0) return line;
-	auto child = m_Lines.lower_bound(key + ".");
-	return child != m_Lines.end() && child->first.compare(0, key.size() + 1, key + ".") == 0 ? child->second.front()
-																							 : 0;
+	if (found != m_Lines.end()) return found->second.back();
+	const std::string parent = key + ".";
+	auto child = m_Lines.lower_bound(parent);
+	return child != m_Lines.end() && child->first.compare(0, parent.size(), parent) == 0 ? child->second.front() : 0;
 }
 
 std::vector<std::string> PropertyLines::keys() const

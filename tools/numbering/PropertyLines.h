@@ -24,11 +24,9 @@ public:
 
 	explicit PropertyLines(std::istream& in);
 
-	/// The line of the entry the reader keeps for key, the last one, or 0 when no entry has that key.
+	/// The line of the entry the reader keeps for key, the last one. For a key the loaders see cut at a "." (no
+	/// entry has it, some entry's key begins with key + "."), the line of the first such entry. 0 for neither.
 	int lineOf(const std::string& key) const;
-
-	/// The line of key or, when the file has no such key, of the first entry whose key begins with key + ".".
-	int lineOfKeyOrChild(const std::string& key) const;
 
 	/// Every key of the file, each once, in key order.
 	std::vector<std::string> keys() const;
