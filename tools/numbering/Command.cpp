@@ -5,6 +5,8 @@
 #include "numbering/ZelClid.h"
 #include "numbering/ZelNumberingConfig.h"
 
+#include "LintReport.h"
+
 #include "Poco/AutoPtr.h"
 #include "Poco/Exception.h"
 
@@ -97,6 +99,8 @@ const std::vector<Command::Definition>& Command::definitions()
 		{"countries", COUNTRIES, {"name", "code", "number"}, "name, code and calling number of every country"},
 		{"explain", EXPLAIN, {"number", "check", "canonical", "gsm", "dial", "prefix", "clid", "origin"},
 			"every conversion side by side"},
+		{"lint", LINT, LintReport::columns(),
+			"the configuration's mistakes, file by file; with --country, a round trip of every area code"},
 	};
 	return all;
 }
@@ -125,12 +129,17 @@ const std::vector<std::string>& Command::columns() const
 
 bool Command::takesNumbers() const
 {
-	return m_Definition->kind != COUNTRIES;
+	return m_Definition->kind != COUNTRIES && m_Definition->kind != LINT;
+}
+
+bool Command::isLint() const
+{
+	return m_Definition->kind == LINT;
 }
 
 bool Command::needsSite() const
 {
-	return m_Definition->kind != COUNTRIES && m_Definition->kind != CHECK;
+	return takesNumbers() && m_Definition->kind != CHECK;
 }
 
 Row Command::convert(
@@ -158,6 +167,7 @@ Row Command::convert(
 	case EXPLAIN:
 		return explained(rules, site, number, pattern);
 	case COUNTRIES:
+	case LINT:
 		break;
 	}
 	return {{number}, false};

@@ -29,8 +29,11 @@ public:
 	/// Column names; a number command's first column is the number as given.
 	const std::vector<std::string>& columns() const;
 
-	/// False for the country list, which reads no numbers.
+	/// False for the country list and the configuration check, which read no numbers.
 	bool takesNumbers() const;
+
+	/// True for the configuration check, "lint".
+	bool isLint() const;
 
 	/// True when the command needs the site (--country and the other site options).
 	bool needsSite() const;
@@ -55,7 +58,8 @@ private:
 		PARSE,
 		CHECK,
 		COUNTRIES,
-		EXPLAIN
+		EXPLAIN,
+		LINT
 	};
 
 	struct Definition

@@ -7,6 +7,9 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "ConfigurationCheck.h"
+#include "ConfigurationLint.h"
+#include "LintReport.h"
+#include "LintTextWriter.h"
 #include "NumberSource.h"
 #include "ResultWriter.h"
 
@@ -31,7 +34,8 @@ const int LONGEST_LENGTH = 99;
 
 const char* const EXIT_STATUSES =
 	"Exit status: 0 when every number converted, 1 when some gave an empty result, 2 for a "
-	"usage error, 3 when the configuration could not be loaded.";
+	"usage error, 3 when the configuration could not be loaded. lint: 0 when it finds no error (warnings "
+	"alone included), 1 when it finds errors, 3 when the directory holds no configuration file.";
 
 Poco::Util::Option valueOption(const std::string& name, const std::string& argument, const std::string& description)
 {
@@ -133,6 +137,7 @@ int NumberingApp::execute(const Command& command, const std::vector<std::string>
 	if (!command.takesNumbers() && !numbers.empty()) return usageError("the command takes no number");
 	if (command.needsSite() && !m_Site.hasCountry()) return usageError("--country is required for this command");
 	if (!m_ConfigDirectory.empty()) ZelNumberingConfig::setConfigDirectory(m_ConfigDirectory);
+	if (command.isLint()) return lint();
 	ZelNumberingRules& rules = *ZelNumberingRules::getInstance();
 	const ConfigurationCheck check(installedSampleDirectory());
 	// Cleaning a number is the one conversion that needs no configuration.
@@ -168,6 +173,36 @@ int NumberingApp::execute(const Command& command, const std::vector<std::string>
 	}
 	writer->finish();
 	return allConverted ? ALL_CONVERTED : SOME_EMPTY;
+}
+
+int NumberingApp::lint()
+{
+	ConfigurationLint configuration(ZelNumberingConfig::getConfigDirectory());
+	if (!configuration.foundAny())
+	{
+		std::cerr << ConfigurationCheck(installedSampleDirectory()).diagnosis();
+		return NO_CONFIGURATION;
+	}
+	LintReport report;
+	configuration.check(report);
+	if (m_Site.hasCountry())
+	{
+		std::unique_ptr<ZelDialRulesItem> site;
+		try
+		{
+			site = m_Site.makeSite();
+		}
+		catch (const std::exception& e)
+		{
+			return usageError(e.what());
+		}
+		configuration.checkRoundTrip(*ZelNumberingRules::getInstance(), *site, report);
+	}
+	const std::unique_ptr<ResultWriter> writer =
+		m_Format == "text" ? std::make_unique<LintTextWriter>(LintReport::columns(), std::cout)
+						   : ResultWriter::create(m_Format, LintReport::columns(), std::cout);
+	report.write(*writer);
+	return report.hasErrors() ? LINT_ERRORS : LINT_CLEAN;
 }
 
 std::string NumberingApp::installedSampleDirectory() const

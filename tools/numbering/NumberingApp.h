@@ -23,10 +23,12 @@ public:
 	/// Exit statuses.
 	enum Status
 	{
-		ALL_CONVERTED = 0,   ///< every number gave a result
-		SOME_EMPTY = 1,      ///< at least one number gave an empty result
-		USAGE_ERROR = 2,     ///< bad command line
-		NO_CONFIGURATION = 3 ///< no dialing rules could be loaded
+		ALL_CONVERTED = 0,    ///< every number gave a result
+		SOME_EMPTY = 1,       ///< at least one number gave an empty result
+		USAGE_ERROR = 2,      ///< bad command line
+		NO_CONFIGURATION = 3, ///< no dialing rules could be loaded; for lint: no configuration file at all
+		LINT_CLEAN = 0,       ///< lint found no error
+		LINT_ERRORS = 1       ///< lint found errors
 	};
 
 	NumberingApp();
@@ -43,6 +45,9 @@ protected:
 
 private:
 	int execute(const Command& command, const std::vector<std::string>& numbers);
+
+	/// Checks the configuration and, when a site is given, the round trip of its country's area codes.
+	int lint();
 
 	/// Where the sample configuration is installed, beside the tool.
 	std::string installedSampleDirectory() const;
