@@ -90,7 +90,8 @@ std::vector<TableSource> tableSources()
 	const std::vector<std::string> argentina = joined({range(600, 609), {"800", "810"}});
 	return {
 		{"31", "NL", 3, {}, {}},
-		{"32", "BE", 2, {}, {}},
+		// The plan writes national-rate numbers (70, 78) itself.
+		{"32", "BE", 2, {}, {"70", "78"}},
 		{"43", "AT", 4, austria, {}},
 		{"44", "GB", 5, {}, {}},
 		{"49", "DE", 5, germany, {}},
