@@ -2,6 +2,7 @@
 
 #include "SampleConfigGenerator.h"
 
+#include "NonGeographicWalker.h"
 #include "PropertyFileWriter.h"
 
 #include "Poco/File.h"
@@ -44,8 +45,9 @@ const std::vector<std::pair<std::string, std::string>> MASKS = {
 	{"353", "+C (A) x"},
 };
 
-/// One area-code table: the country, how deep its codes go, the codes the plan also keeps as area codes
-/// (mobile and service codes, written like area codes in these countries) and the beginnings no code may have.
+/// One area-code table: the country, how deep its geographic codes go, the mobile and service codes written
+/// as this country writes them (the other ranges get the codes the metadata gives them) and the beginnings no
+/// code may have: numbers the plan reads without its table.
 struct TableSource
 {
 	std::string callingCode;
@@ -88,21 +90,28 @@ std::vector<TableSource> tableSources()
 	const std::vector<std::string> argentina = joined({range(600, 609), {"800", "810"}});
 	return {
 		{"31", "NL", 3, {}, {}},
-		{"32", "BE", 2, {}, {}},
+		// The plan writes national-rate numbers (70, 78) itself.
+		{"32", "BE", 2, {}, {"70", "78"}},
 		{"43", "AT", 4, austria, {}},
 		{"44", "GB", 5, {}, {}},
 		{"49", "DE", 5, germany, {}},
 		{"54", "AR", 4, argentina, {"0", "9", "15"}},
-		{"61", "AU", 1, {}, {}},
-		// 15xx and 18xx are dialled without trunk prefix; 76 was withdrawn.
-		{"353", "IE", 3, ireland, {"15", "18", "76"}},
+		// Numbers beginning with 1 are service numbers the plan writes itself or leaves alone.
+		{"61", "AU", 1, {}, {"1"}},
+		// 15xx and 18xx are dialled without trunk prefix.
+		{"353", "IE", 3, ireland, {"15", "18"}},
 	};
 }
 
-bool beginsWithAny(const std::string& code, const std::vector<std::string>& beginnings)
+void eraseBeginningWithAny(std::set<std::string>& digits, const std::vector<std::string>& beginnings)
 {
-	return std::any_of(beginnings.begin(), beginnings.end(),
-		[&code](const std::string& beginning) { return code.compare(0, beginning.size(), beginning) == 0; });
+	for (auto it = digits.begin(); it != digits.end();)
+	{
+		const std::string& value = *it;
+		const bool excluded = std::any_of(beginnings.begin(), beginnings.end(),
+			[&value](const std::string& beginning) { return value.compare(0, beginning.size(), beginning) == 0; });
+		it = excluded ? digits.erase(it) : std::next(it);
+	}
 }
 
 } // namespace
@@ -156,20 +165,25 @@ void SampleConfigGenerator::writeActivation(std::ostream& report)
 void SampleConfigGenerator::writeAreaCodeTables(std::ostream& report)
 {
 	const AreaCodeWalker walker(m_Util, m_Geocoder);
+	const NonGeographicWalker nonGeographic(m_Util);
 	for (const TableSource& table : tableSources())
 	{
 		std::set<std::string> codes = walker.geographicCodes(table.region, table.longestCode);
 		const std::size_t geographic = codes.size();
 		codes.insert(table.extraCodes.begin(), table.extraCodes.end());
-		for (auto it = codes.begin(); it != codes.end();)
-			it = beginsWithAny(*it, table.excludedBeginnings) ? codes.erase(it) : std::next(it);
+		eraseBeginningWithAny(codes, table.excludedBeginnings);
+		std::set<std::string> numbers = nonGeographic.numbers(table.region);
+		eraseBeginningWithAny(numbers, table.excludedBeginnings);
+		const std::set<std::string> ranges = nonGeographic.codes(table.region, numbers, codes);
+		codes.insert(ranges.begin(), ranges.end());
 		const std::string name = "r7731cnp_" + table.callingCode + "_default.properties";
 		// Ascending order: a code always comes before the longer codes that extend it.
 		PropertyFileWriter file(path(name),
 			ORIGIN + "\nArea codes of " + m_Names.name(table.region) + " without trunk prefix, in ascending order.");
 		file.add("Translate", "1");
 		file.addNumbered("AC_", codes);
-		report << name << ": " << codes.size() << " codes (" << geographic << " geographic)\n";
+		report << name << ": " << codes.size() << " codes (" << geographic << " geographic, " << ranges.size()
+			   << " more for the other ranges)\n";
 	}
 }
 
