@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(cmake ninja-build g++ pkg-config clang-format libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev
-	clang-14 libclang-rt-14-dev llvm-14)
+	clang-14 libclang-rt-14-dev llvm-14 dpkg-dev file lintian)
 
 missing=()
 for package in "${packages[@]}"; do
