@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds the three Debian packages with scripts/package.sh, checks each one's files and dependencies, has lintian
-# check them, then unpacks them into a scratch root and runs the tool from there on the sample configuration.
+# check them, then unpacks them into a scratch root, compares the shipped library's exported symbols with the list
+# and runs the tool from there on the sample configuration.
 # usage: deb-packages-test.sh BUILD_DIRECTORY VERSION
 set -euo pipefail
 
@@ -76,6 +77,8 @@ lintian --fail-on error "$packages"/*.deb || failed=1
 for package in "$packages"/*.deb; do
 	dpkg -x "$package" "$scratch"
 done
+# Built with Debian's flags rather than the tested build's, the shipped library must still export the listed interface.
+"$root/tests/package/exported-symbols-test.sh" "$scratch/usr/lib/$arch" || failed=1
 expect "the tool's output from the unpacked packages" "$(printf '%s\t' number check canonical gsm dial prefix clid)origin
 $(printf '%s\t' "089 1234567" 0891234567 "+49 (89) 1234567" +49891234567 00891234567 00891234567 891234567)National
 $(printf '%s\t' "+33 1 23 45 67 89" "" "+33 1 23 45 67 89" "+33 1 23 45 67 89" 00033123456789 00033123456789 \
