@@ -47,3 +47,16 @@ for header in "$prefix"/include/numbering/*.h; do
 		$(pkg-config --cflags numbering) || { echo "error: $name does not compile on its own" >&2; exit 1; }
 done
 echo "ok: every installed header compiles on its own"
+
+# The README's host program, built as the README says and run from the source tree, prints what the README shows.
+root="$here/../.."
+section="$(awk '/^## A host program$/ { on = 1; next } /^## / { on = 0 } on' "$root/README.md")"
+awk '/^```cpp$/ { on = 1; next } /^```$/ { on = 0 } on' <<<"$section" >"$work/readme-host.cpp"
+expected="$(awk '/^```$/ && !code { fence++; next } /^```cpp$/ { code = 1; next } /^```$/ { code = 0; next } fence == 1' <<<"$section")"
+# shellcheck disable=SC2046
+"$cxx" -std=c++17 -o "$work/readme-host" "$work/readme-host.cpp" $(pkg-config --cflags --libs numbering)
+if ! diff -u <(printf '%s\n' "$expected") <(cd "$root" && "$work/readme-host" 2>/dev/null); then
+	echo "error: the README's host program prints otherwise than the README shows (README first)" >&2
+	exit 1
+fi
+echo "ok: the README's host program prints what the README shows"
