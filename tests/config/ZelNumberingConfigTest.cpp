@@ -195,16 +195,6 @@ TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
 		EXPECT_EQ(expected, config.extractCountryNumber(number)) << number;
 }
 
-TEST_F(ZelNumberingConfigTest, ResetInstanceMakesTheNextInstanceReadTheFilesAgain)
-{
-	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
-	EXPECT_FALSE(load().validCountryCode("DE"));
-	writeFile("dialingrules.properties", "DE=49:00:EFG:0FG:G:Germany:P\n");
-	EXPECT_FALSE(load().validCountryCode("DE"));
-	ZelNumberingConfig::resetInstance();
-	EXPECT_TRUE(load().validCountryCode("DE"));
-}
-
 struct BadFileCase
 {
 	const char* name;

@@ -79,6 +79,7 @@ TEST(ZelClidTest, DefaultIsEmptyFromAny)
 	Poco::AutoPtr<ZelClid> clid(new ZelClid());
 	EXPECT_EQ("", clid->getNumber());
 	EXPECT_EQ(&ZelEnumOrigin::ANY, clid->getOrigin());
+	EXPECT_EQ("Any", clid->getOrigin()->getName());
 }
 
 TEST(ZelClidTest, DuplicateKeepsRecordAliveUntilLastRelease)

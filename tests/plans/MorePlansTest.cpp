@@ -20,14 +20,14 @@ namespace numbering {
 namespace test {
 namespace {
 
-const Site NL20{"NL", "20", "0"}, AT1EXT9{"AT", "1", "9"}, AT1{"AT", "1", "0"}, GB20{"GB", "20", "9"},
+const SiteSetup NL20{"NL", "20", "0"}, AT1EXT9{"AT", "1", "9"}, AT1{"AT", "1", "0"}, GB20{"GB", "20", "9"},
 	IE1{"IE", "1", "9"}, MX55{"MX", "55", "9"}, MX{"MX", "", ""};
 
 /// A worked example at plan level: the number handed to the plan at a site, and the plan's result.
 struct PlanRow
 {
 	const char* name;
-	Site site;
+	SiteSetup site;
 	const char* number;
 	const char* canonical;
 };
@@ -146,7 +146,7 @@ TEST_P(ZelCNP54StripTest, SplitsTheNumber)
 {
 	const StripRow& row = GetParam();
 	configure(Setting::Sample);
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(Site{"AR", row.siteArea, "0"});
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
 	Poco::AutoPtr<ZelCNP_54> plan(new ZelCNP_54());
 	const std::unique_ptr<ZelStrippedNbr> stripped = plan->StripNbr(row.full, *row.siteArea ? site.get() : nullptr);
 	EXPECT_EQ(row.record, stripped ? stripped->ToString() : "");
@@ -179,7 +179,7 @@ TEST_P(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
 	const DialRow& row = GetParam();
 	configure(Setting::Sample);
 	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(Site{"AR", row.siteArea, "0"});
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
 	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("AR");
 	std::string area = row.areaNatPfx;
 	std::string dest = row.dest;
@@ -194,7 +194,7 @@ using ZelDialable54FallbackTest = MorePlansFixture;
 TEST_F(ZelDialable54FallbackTest, DialsAreaAndNumberWithoutArgentinePlan)
 {
 	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(Site{"FR", "1", "0"});
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"FR", "1", "0"});
 	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("FR");
 	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
 	std::string area = "911";
@@ -206,7 +206,7 @@ TEST_F(ZelDialable54FallbackTest, DialsAreaAndNumberWithoutArgentinePlan)
 const std::string UNREADABLE[] = {"", "0", "00", "000", "0000", std::string(3, '\0'), std::string("0\0\xff\x80", 4),
 	"0" + std::string(16, '0'), "00" + std::string(200, '5'), "+++", "0(1) 2"};
 
-const Site SITES[] = {{"FR", "1", "0"}, {"FR", "", ""}, {"FR", "1234567890123", "00000"}, {"FR", "22", "9"}};
+const SiteSetup SITES[] = {{"FR", "1", "0"}, {"FR", "", ""}, {"FR", "1234567890123", "00000"}, {"FR", "22", "9"}};
 
 class MorePlansRobustnessTest: public MorePlansFixture, public ::testing::WithParamInterface<const char*>
 {
@@ -216,7 +216,7 @@ TEST_P(MorePlansRobustnessTest, ReadsOddNumbersSafely)
 {
 	configure(Setting::Sample);
 	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(GetParam()));
-	for (const Site& setup : SITES)
+	for (const SiteSetup& setup : SITES)
 	{
 		const std::unique_ptr<ZelDialRulesItem> site = makeSite(setup);
 		for (const std::string& number : UNREADABLE)

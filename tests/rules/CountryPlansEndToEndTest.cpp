@@ -22,7 +22,7 @@ namespace {
 struct Trip
 {
 	const char* name;
-	Site site;
+	SiteSetup site;
 	const char* input;
 	const char* canonical;
 	const char* dialled;
@@ -30,12 +30,12 @@ struct Trip
 	const char* clidOrigin;
 };
 
-const Site PARIS{"FR", "1", "9"};
-const Site MOSCOW{"RU", "495", "9"};
-const Site NEW_YORK{"US", "212", "9"};
-const Site ZURICH{"CH", "44", "0"};
-const Site BOGOTA{"CO", "1", "0"};
-const Site AUCKLAND{"NZ", "9", "1"};
+const SiteSetup PARIS{"FR", "1", "9"};
+const SiteSetup MOSCOW{"RU", "495", "9"};
+const SiteSetup NEW_YORK{"US", "212", "9"};
+const SiteSetup ZURICH{"CH", "44", "0"};
+const SiteSetup BOGOTA{"CO", "1", "0"};
+const SiteSetup AUCKLAND{"NZ", "9", "1"};
 
 const Trip TRIPS[] = {
 	{"FrNational", PARIS, "01 23 45 67 89", "+33 (0) 123456789", "90123456789", "123456789", "National"},

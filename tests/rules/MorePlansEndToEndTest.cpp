@@ -17,8 +17,8 @@ namespace numbering {
 namespace test {
 namespace {
 
-const Site FR1{"FR", "1", "0"}, NL20{"NL", "20", "0"}, NL10{"NL", "10", "0"}, BE2{"BE", "2", "0"}, BE4{"BE", "4", "0"},
-	AT1{"AT", "1", "0"}, AT1EXT9{"AT", "1", "9"}, AT316{"AT", "316", "0"}, GB20{"GB", "20", "9"},
+const SiteSetup FR1{"FR", "1", "0"}, NL20{"NL", "20", "0"}, NL10{"NL", "10", "0"}, BE2{"BE", "2", "0"},
+	BE4{"BE", "4", "0"}, AT1{"AT", "1", "0"}, AT1EXT9{"AT", "1", "9"}, AT316{"AT", "316", "0"}, GB20{"GB", "20", "9"},
 	GB121{"GB", "121", "9"}, IE1{"IE", "1", "9"}, IE1EXT0{"IE", "1", "0"}, IE21{"IE", "21", "9"}, AU2{"AU", "2", "0"},
 	AU3{"AU", "3", "0"}, AR11{"AR", "11", "0"}, AR351{"AR", "351", "0"}, MX55{"MX", "55", "9"}, MX33{"MX", "33", "9"},
 	MX222{"MX", "222", "9"};
@@ -34,14 +34,14 @@ struct TripRow
 	const char* dialledAtOther = nullptr;
 	const char* dialledFromFrance = nullptr;
 	Setting setting = Setting::Sample;
-	Site at{};
-	Site other{};
-	Site home{};
+	SiteSetup at{};
+	SiteSetup other{};
+	SiteSetup home{};
 };
 
 /// The rows of one country, with its home and other site filled in where a row does not give its own.
 template <std::size_t N>
-std::vector<TripRow> trips(const Site& home, const Site& other, const TripRow (&table)[N])
+std::vector<TripRow> trips(const SiteSetup& home, const SiteSetup& other, const TripRow (&table)[N])
 {
 	std::vector<TripRow> rows(table, table + N);
 	for (TripRow& row : rows)
@@ -169,7 +169,7 @@ TEST_P(MorePlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
 {
 	const TripRow& row = GetParam();
 	configure(row.setting);
-	const auto dial = [](const Site& setup, const std::string& canonical) {
+	const auto dial = [](const SiteSetup& setup, const std::string& canonical) {
 		return ZelNumberingRules::getInstance()->makeDialableNumber(makeSite(setup).get(), canonical);
 	};
 	const std::string canonical =
@@ -197,7 +197,7 @@ INSTANTIATE_TEST_SUITE_P(Mexico, MorePlansEndToEndTest, ::testing::ValuesIn(trip
 struct ClidRow
 {
 	const char* name;
-	Site site;
+	SiteSetup site;
 	const char* received;
 	ZelEnumOrigin* origin;
 	const char* number;

@@ -30,7 +30,7 @@ US=1:011:EFG:1FG:G:United States:P
 )";
 
 /// A site as the worked examples write it: country, area-code list, external prefix.
-struct Site
+struct SiteSetup
 {
 	const char* country;
 	const char* areas;
@@ -38,13 +38,13 @@ struct Site
 };
 
 /// The site's record with local numbers shorter than 5 digits; its country must be in the dialing rules.
-inline std::unique_ptr<ZelDialRulesItem> makeSite(const Site& site)
+inline std::unique_ptr<ZelDialRulesItem> makeSite(const SiteSetup& site)
 {
 	return std::make_unique<ZelDialRulesItem>(site.country, site.ext, 5, site.areas, 0, "");
 }
 
 /// "NL/20 ext 0".
-inline std::string siteName(const Site& site)
+inline std::string siteName(const SiteSetup& site)
 {
 	return std::string(site.country) + "/" + site.areas + " ext " + site.ext;
 }
