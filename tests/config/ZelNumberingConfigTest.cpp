@@ -159,6 +159,13 @@ TEST_P(ZelNumberingConfigActivationTest, KeepsTheFlagUnderZeroSoRealNumbersReadA
 	EXPECT_TRUE(load().isSpecificFormatActiveForCountry("33"));
 }
 
+TEST_F(ZelNumberingConfigTest, ActivationOfANumberLongerThanThreeDigitsIsIgnored)
+{
+	writeFile("dialingrules.properties", DIALING_RULES);
+	writeFile("specific_format_activation.properties", "cnp_1242=off\ncnp_=off\n");
+	EXPECT_TRUE(load().isSpecificFormatActiveForCountry("0"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Values,
 	ZelNumberingConfigActivationTest,
 	::testing::Values(ActivationCase{"TRUE", true},
