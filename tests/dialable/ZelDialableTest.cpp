@@ -6,7 +6,6 @@
 #include "dialable/ZelDialableManager.h"
 #include "dialable/ZelDialable_7.h"
 #include "support/ConfigFixture.h"
-#include "support/LogCapture.h"
 #include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
@@ -14,8 +13,6 @@
 #include <gtest/gtest.h>
 
 #include <typeinfo>
-
-using numbering::test::LogCapture;
 
 namespace numbering {
 namespace {
@@ -98,45 +95,16 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"TrunkKeptWithoutLetterF", Call::International, "E", "0", "2012345678", "00442012345678"}),
 	numbering::test::RowName());
 
-TEST_F(ZelDialableTest, LongDistWritesItsTraceOnlyWhenTracesAreOn)
-{
-	ZelCountryRuleItem rule("33", "00", "EF", "0F", "", "France");
-	ZelDialable maker;
-	std::string area = "1";
-	std::string dest = "23456789";
-	maker.makeLongDistDialableNumber(area, dest, &rule, nullptr);
-	EXPECT_TRUE(LogCapture::lines().empty());
-	Logger::m_Traces = true;
-	maker.makeLongDistDialableNumber(area, dest, &rule, nullptr);
-	const std::vector<std::string> expected{
-		"DEBUG N9numbering11ZelDialableE - makeLongDistDialableNumber() AreaNatPfx: '1' dest: 23456789 result: "
-		"0123456789"};
-	EXPECT_EQ(expected, LogCapture::lines());
-}
-
 using ZelDialableManagerTest = test::ConfigFixture;
 
-TEST_F(ZelDialableManagerTest, KeepsOneMakerPerCountryNumberUntilReset)
+TEST_F(ZelDialableManagerTest, KeepsOneMakerPerCountryNumberAndNoneForAnEmptyOne)
 {
-	const int before = ZelDialable::_count;
 	ZelDialableManager* manager = ZelDialableManager::getInstance();
 	ZelDialable* french = manager->getDialable("33");
 	ASSERT_NE(nullptr, french);
 	EXPECT_EQ(french, manager->getDialable("33"));
 	EXPECT_NE(french, manager->getDialable("44"));
-	EXPECT_EQ(before + 2, ZelDialable::_count);
-	ZelDialableManager::resetInstance();
-	EXPECT_EQ(before, ZelDialable::_count);
-}
-
-TEST_F(ZelDialableManagerTest, EmptyCountryNumberGetsNoMaker)
-{
-	Logger::m_Traces = true;
-	const int before = ZelDialable::_count;
-	EXPECT_EQ(nullptr, ZelDialableManager::getInstance()->getDialable(""));
-	EXPECT_EQ(nullptr, ZelDialableManager::getInstance()->getDialable(""));
-	EXPECT_EQ(before, ZelDialable::_count);
-	EXPECT_EQ(2, LogCapture::count("loadDialableClass('strCountryNumber=NULL')"));
+	EXPECT_EQ(nullptr, manager->getDialable(""));
 }
 
 TEST_F(ZelDialableManagerTest, FactoryChoosesAVariantByTheWholeCountryNumber)

@@ -12,16 +12,6 @@ namespace test {
 
 namespace {
 
-const char* const DIALING_RULES = R"(AR=54:00:EFG:0FG:G:Argentina:P
-AT=43:00:EFG:0FG:G:Austria:P
-AU=61:0011:EFG:0FG:G:Australia:P
-BE=32:00:EFG:0FG:0FG:Belgium:P
-FR=33:00:EFG:0FG:G:France:P
-GB=44:00:EFG:0FG:G:United Kingdom:P
-IE=353:00:EFG:0FG:G:Ireland:P
-NL=31:00:EFG:0FG:G:Netherlands:P
-)";
-
 const char* const MEXICO = "MX=52:00:EFG:01FG:G:Mexico:P\n";
 const char* const MEXICO_2019 = "MX=52:00:EFG:FG:FG:Mexico:P\n";
 
@@ -41,7 +31,7 @@ const std::map<std::string, std::string> SAMPLE_CODES = {
 void MorePlansFixture::configure(Setting setting)
 {
 	writeFile("dialingrules.properties",
-		std::string(DIALING_RULES) + (setting == Setting::Mexico2019 ? MEXICO_2019 : MEXICO));
+		std::string(PLAN_COUNTRIES) + (setting == Setting::Mexico2019 ? MEXICO_2019 : MEXICO));
 	if (setting == Setting::NoTable) return;
 	for (const auto& [callingCode, codes] : SAMPLE_CODES)
 	{
@@ -50,16 +40,6 @@ void MorePlansFixture::configure(Setting setting)
 		const char* translate = setting == Setting::NoTranslate ? "Translate=0\n" : "Translate=1\n";
 		writeFile("r7731cnp_" + callingCode + ".properties", areaCodeTable(translate, list));
 	}
-}
-
-std::unique_ptr<ZelDialRulesItem> MorePlansFixture::makeSite(const SiteSetup& site)
-{
-	return std::make_unique<ZelDialRulesItem>(site.country, site.ext, 5, site.areas, 0, "");
-}
-
-std::string MorePlansFixture::siteName(const SiteSetup& site)
-{
-	return std::string(site.country) + "/" + site.areas + " ext " + site.ext;
 }
 
 } // namespace test

@@ -14,11 +14,8 @@
 
 #include <gtest/gtest.h>
 
-#include <exception>
-#include <functional>
 #include <map>
 #include <memory>
-#include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -47,7 +44,7 @@ IT=39:00:EF:0F:F:Italy:P
 PT=351:00:EF:E:F:Portugal:P
 CO=57:00:EF:0F:F:Colombia:P
 )");
-		writeFile("r7731cnp_57.properties", "OP_0000=5\nOP_0001=7\n");
+		writeFile("r7731cnp_57.properties", "OP_DEFAULT=4\nOP_0000=5\nOP_0001=7\n");
 		writeFile("qap_cnp_mask.properties", "Mask_49_1=+C (A) xxx xxxx\n");
 		writeFile("specific_format_activation.properties", "cnp_49=true\n");
 		writeFile("r7731cnp_49.properties", "Translate=1\nAC_0000=30\nAC_0001=89\nAC_0002=221\nAC_0003=7071\n");
@@ -141,38 +138,15 @@ INSTANTIATE_TEST_SUITE_P(Dialled,
 		Case{"ExceptionNumber", Op::Prefix, "Berlin", "11833", "11833"},
 		Case{"PlusNumberConverted", Op::Prefix, "Berlin", "+49 (30) 1234567", "01234567"},
 		Case{"NoPrefixSiteTrims", Op::Prefix, "BerlinDirect", "  0612345678 ", "0612345678"},
+		// Bogota's carrier 4 is dialled after the prefix; a carrier dialled abroad is dropped, one dialled towards
+		// Colombia stays, and abroad the subscriber number is dialled twice.
+		Case{"ColombiaAbroadWithCarrier", Op::Phone, "Bogota", "005 34 91 123 4567", "0004911234567911234567"},
+		Case{"ColombiaOwnCountryWithCarrier", Op::Phone, "Bogota", "005 57 4 234 5678", "00442345678"},
+		Case{"ColombiaMobile", Op::Phone, "Bogota", "+57 300 123 4567", "0033001234567"},
 		Case{"DialPassesOnWithoutPlus", Op::Dial, "Berlin", " 49 (89) 123", "089123"},
 		Case{"DialPassesOnDialled", Op::Dial, "Berlin", "0301234", "0301234"},
 		Case{"DialNothingAfterArea", Op::Dial, "Berlin", "+49 (89) ", ""},
 		Case{"DialUnconfiguredSite", Op::Dial, "Unconfigured", "+49 (89) 123", "+49 (89) 123"}),
-	RowName());
-
-/// With traces on, a number left unconverted says why.
-using MakeCanonicalNumberTracesTest = SiteCaseTest;
-
-TEST_P(MakeCanonicalNumberTracesTest, LogsHowTheNumberWasClassified)
-{
-	Logger::m_Traces = true;
-	rules()->makeCanonicalNumber(site(GetParam().site), GetParam().input, "");
-	EXPECT_EQ(1, LogCapture::count(std::string(" - ") + GetParam().expected));
-}
-
-INSTANTIATE_TEST_SUITE_P(Sites,
-	MakeCanonicalNumberTracesTest,
-	::testing::Values(Case{"Internal", Op::Canonical, "Berlin", "1234", "Nothing to do for1234"},
-		Case{"International", Op::Canonical, "Berlin", "0034 911",
-			"International number detected : '0034911' with CountryCode 'ES'"},
-		Case{"OwnCountryKeepsCarrierCode", Op::Canonical, "Bogota", "005 57 1 2345678",
-			"Source number to be altered : '0512345678'"},
-		Case{"UnknownCallingCode", Op::Canonical, "Madrid", "00999 1234567",
-			"International number detected but no country code was found '00999 1234567'"},
-		Case{"UnknownPlusCallingCode", Op::Canonical, "Berlin", "+999 1234567",
-			"No country code found for country number ''"},
-		Case{"SameRules", Op::Canonical, "Madrid", "911234567",
-			"There is no difference between local and national phone number format'911234567'"},
-		Case{"LocalOrNational", Op::Canonical, "Lisbon", "211234567",
-			"Can't translate to a canonical phone number : we don't known if '211234567' is a local or national "
-			"phone number"}),
 	RowName());
 
 /// A received number and the calling-line identity made of it.
@@ -263,92 +237,19 @@ INSTANTIATE_TEST_SUITE_P(Operations,
 		FailureCase{"PrefixNoSite", Op::Prefix, "none", "1234", "'myZelDialRulesItem' parameter can not be null"}),
 	RowName());
 
-/// Inputs that have broken number parsers.
-std::vector<std::string> adversarialInputs()
-{
-	return {"", "+", "(", ")", "|", " ", "++", "+ ", "()", ")(", "+()", "+(", "+)", "+ (", "+49", "+49 (", "+49 )",
-		"+49 ()", "+49 () ", "+49 (30)", "+49 (30) ", "+49 )30( 1", "(30) 123", "0", "00", "000", "0049", "00 49", "+0",
-		"***", "|||", "|1", "1|", std::string(1, '\0'), std::string("030") + '\0' + "1234567", "\xff\xfe",
-		"+\x80 49 30 1", "*#ABCDabcd", std::string(29, '1'), std::string(30, '1'), std::string(40, '9'),
-		"+" + std::string(40, '4'), "00" + std::string(5000, '4'), std::string(100000, '0'),
-		"+49 (" + std::string(5000, '3') + ") 1", std::string(5000, ' ') + "1", std::string(3000, '('),
-		"+49 (30) " + std::string(3000, ' ')};
-}
+using TracesTest = CanonicalSitesFixture;
 
-/// Number fragments and hostile characters, with a fixed seed so that a failure can be replayed.
-std::vector<std::string> randomInputs(int count)
+TEST_F(TracesTest, DebugLinesAreWrittenOnlyWhenTracesAreOn)
 {
-	const std::vector<std::string> pieces{"0", "1", "3", "4", "9", "00", "+", " ", "  ", "(", ")", "|", "-", ".", "*",
-		"#", "A", "D", "a", "x", "C", "\xe9", "\x80", std::string(1, '\0'), "***", "0049", "+49 ", "0034", "030", "\t"};
-	std::mt19937 random(20240607);
-	std::uniform_int_distribution<std::size_t> piece(0, pieces.size() - 1);
-	std::uniform_int_distribution<int> length(0, 24);
-	std::vector<std::string> inputs;
-	for (int i = 0; i < count; ++i)
-	{
-		const int pieceCount = i % 100 == 0 ? 600 : length(random);
-		std::string input;
-		for (int p = 0; p < pieceCount; ++p)
-			input += pieces[piece(random)];
-		inputs.push_back(input);
-	}
-	return inputs;
-}
-
-using FacadeRobustnessTest = CanonicalSitesFixture;
-
-TEST_F(FacadeRobustnessTest, SurvivesHostileNumbersAtEverySite)
-{
-	std::vector<std::string> inputs = adversarialInputs();
-	const std::vector<std::string> random = randomInputs(3000);
-	inputs.insert(inputs.end(), random.begin(), random.end());
-	for (const char* name : {"Berlin", "BerlinDirect", "Unconfigured", "none"})
-	{
-		ZelDialRulesItem* item = site(name);
-		for (std::size_t i = 0; i < inputs.size(); ++i)
-		{
-			const std::string& input = inputs[i];
-			const std::string& pattern = inputs[(i * 7 + 3) % inputs.size()];
-			// Half of the calls build their debug lines as well.
-			Logger::m_Traces = i % 2 == 1;
-			// The seed is fixed, so a site and an index replay a failure.
-			SCOPED_TRACE(std::string(name) + " input #" + std::to_string(i));
-			EXPECT_NO_THROW({
-				rules()->makeCanonicalNumber(item, input, "");
-				rules()->makeCanonicalNumber(item, input, pattern, true);
-				rules()->makePhoneNumber(item, input);
-				rules()->addExternalPrefix(item, input);
-				rules()->formatCanonicalNumber(input, pattern);
-				rules()->formatToGSMCanonicalNumber(input);
-				rules()->checkPhoneNumber(input);
-				rules()->isPrefixNeeded(item, input);
-				rules()->validNumber(input);
-				rules()->extractCountryNumberFromCanonicalNumber(input);
-				rules()->extractAreaCodeOrNatPrefixFromCanonicalNumber(input);
-				rules()->extractExtensionFromCanonicalNumber(input);
-				rules()->getCountryCode(input);
-				rules()->getCountryName(input);
-				rules()->getCountryCodeFromNumber(input);
-			});
-			// Unguarded operations may throw, but only a std::exception.
-			const std::function<void()> unguarded[] = {
-				[&] { Poco::AutoPtr<ZelClid> clid(rules()->makeClid(item, input)); },
-				[&] { rules()->makeDialableNumber(item, input); },
-				[&] { rules()->makeGSMCanonicalNumber(item, input, i % 3 == 0); },
-				[&] { rules()->generateDefaultCanonicalNumber(input, "DE", pattern); }};
-			for (const std::function<void()>& operation : unguarded)
-			{
-				try
-				{
-					operation();
-				}
-				catch (const std::exception&)
-				{
-				}
-			}
-			LogCapture::clear();
-		}
-	}
+	const auto debugLines = [this] {
+		LogCapture::clear();
+		rules()->makeCanonicalNumber(site("Berlin"), "089 1234567", "");
+		rules()->makePhoneNumber(site("Bogota"), "+34 91 123 4567");
+		return LogCapture::matching("DEBUG ");
+	};
+	EXPECT_EQ(std::vector<std::string>(), debugLines());
+	Logger::m_Traces = true;
+	EXPECT_EQ("DEBUG N9numbering17ZelNumberingRulesE - MakeCanonicalNumber with : 089 1234567", debugLines().at(0));
 }
 
 } // namespace

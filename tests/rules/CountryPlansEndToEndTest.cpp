@@ -1,11 +1,11 @@
 // CountryPlansEndToEndTest.cpp
 
 #include "numbering/ZelClid.h"
-#include "numbering/ZelDialRulesItem.h"
 #include "numbering/ZelEnumOrigin.h"
 #include "numbering/ZelNumberingRules.h"
 
 #include "support/ConfigFixture.h"
+#include "support/PlanSites.h"
 #include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
@@ -18,19 +18,11 @@ namespace numbering {
 namespace test {
 namespace {
 
-/// A site: country, area code, external prefix; local numbers are shorter than 5 digits.
-struct Site
-{
-	const char* country;
-	const char* areaCode;
-	const char* extPrefix;
-};
-
 /// A number at a site: its canonical form, what the exchange dials, and its calling-line identity.
 struct Trip
 {
 	const char* name;
-	Site site;
+	SiteSetup site;
 	const char* input;
 	const char* canonical;
 	const char* dialled;
@@ -38,12 +30,12 @@ struct Trip
 	const char* clidOrigin;
 };
 
-const Site PARIS{"FR", "1", "9"};
-const Site MOSCOW{"RU", "495", "9"};
-const Site NEW_YORK{"US", "212", "9"};
-const Site ZURICH{"CH", "44", "0"};
-const Site BOGOTA{"CO", "1", "0"};
-const Site AUCKLAND{"NZ", "9", "1"};
+const SiteSetup PARIS{"FR", "1", "9"};
+const SiteSetup MOSCOW{"RU", "495", "9"};
+const SiteSetup NEW_YORK{"US", "212", "9"};
+const SiteSetup ZURICH{"CH", "44", "0"};
+const SiteSetup BOGOTA{"CO", "1", "0"};
+const SiteSetup AUCKLAND{"NZ", "9", "1"};
 
 const Trip TRIPS[] = {
 	{"FrNational", PARIS, "01 23 45 67 89", "+33 (0) 123456789", "90123456789", "123456789", "National"},
@@ -63,8 +55,8 @@ const Trip TRIPS[] = {
 	{"ChOtherArea", ZURICH, "0311234567", "+41 (31) 1234567", "00311234567", "311234567", "National"},
 	{"ChOldZurich", ZURICH, "012345678", "+41 (1) 2345678", "0012345678", "12345678", "National"},
 	{"ChFreePhone", ZURICH, "0800 123 456", "+41 800123456", "00800123456", "800123456", "National"},
-	{"ChUnknownCountryBehindExternalPrefix", ZURICH, "00441234567", "+41 (44) 1234567", "01234567", "1234567",
-		"Public"},
+	{"ChUnknownCountryBehindExternalPrefix", ZURICH, "00451234567", "+41 (45) 1234567", "00451234567", "451234567",
+		"National"},
 	{"CoLocal", BOGOTA, "234 56 78", "+57 (1) 2345678", "02345678", "2345678", "Public"},
 	{"CoOtherArea", BOGOTA, "0942345678", "+57 (4) 2345678", "00942345678", "42345678", "National"},
 	{"CoCanonical", BOGOTA, "+57 4 234 5678", "+57 (4) 2345678", "00942345678", "42345678", "National"},
@@ -79,79 +71,24 @@ protected:
 	void SetUp() override
 	{
 		ConfigFixture::SetUp();
-		writeFile("dialingrules.properties", R"(FR=33:00:EFG:0FG:G:France:P
-RU=7:810:EFG:8FG:G:Russia:P
-US=1:011:EFG:1FG:G:United States:P
-CH=41:00:EFG:0FG:G:Switzerland:P
-CO=57:00:EFG:0FG:G:Colombia:P
-NZ=64:00:EFG:0FG:G:New Zealand:P
-)");
+		writeFile("dialingrules.properties", PLAN_COUNTRIES);
 	}
 };
 
 TEST_P(CountryPlansEndToEndTest, MakesCanonicalNumberPhoneNumberAndClid)
 {
 	const Trip& trip = GetParam();
-	ZelDialRulesItem at(trip.site.country, trip.site.extPrefix, 5, trip.site.areaCode, 0, "");
+	const std::unique_ptr<ZelDialRulesItem> at = makeSite(trip.site);
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
-	EXPECT_EQ(trip.canonical, rules->makeCanonicalNumber(&at, trip.input, ""));
-	EXPECT_EQ(trip.dialled, rules->makePhoneNumber(&at, trip.input));
-	Poco::AutoPtr<ZelClid> clid(rules->makeClid(&at, trip.input));
+	EXPECT_EQ(trip.canonical, rules->makeCanonicalNumber(at.get(), trip.input, ""));
+	EXPECT_EQ(trip.dialled, rules->makePhoneNumber(at.get(), trip.input));
+	Poco::AutoPtr<ZelClid> clid(rules->makeClid(at.get(), trip.input));
 	ASSERT_FALSE(clid.isNull());
 	EXPECT_EQ(trip.clidNumber, clid->getNumber());
 	EXPECT_EQ(trip.clidOrigin, clid->getOrigin()->getName());
 }
 
 INSTANTIATE_TEST_SUITE_P(Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), RowName());
-
-struct PhoneCase
-{
-	const char* name;
-	Site site;
-	const char* input;
-	const char* expected;
-};
-
-const Site MEXICO_CITY{"MX", "55", "9"};
-const Site GUADALAJARA{"MX", "33", "9"};
-const Site SYDNEY{"AU", "2", "0"};
-
-/// The countries of the four dialable variants and Spain; Colombia dials carrier 4 and knows 5 and 7.
-class DialableVariantsEndToEndTest: public test::ConfigFixture, public ::testing::WithParamInterface<PhoneCase>
-{
-protected:
-	void SetUp() override
-	{
-		ConfigFixture::SetUp();
-		writeFile("dialingrules.properties", R"(CO=57:00:EFG:0FG:G:Colombia:P
-ES=34:00:EFG:FG:G:Spain:P
-MX=52:00:EFG:01FG:G:Mexico:P
-AU=61:0011:EFG:0FG:G:Australia:P
-RU=7:810:EFG:8FG:G:Russia:P
-)");
-		writeFile("r7731cnp_57.properties", "OP_DEFAULT=4\nOP_0000=5\nOP_0001=7\n");
-		writeFile("r7731cnp_61.properties", "Translate=1\nAC_0000=2\nAC_0001=3\nAC_0002=7\nAC_0003=8\n");
-	}
-};
-
-TEST_P(DialableVariantsEndToEndTest, MakesPhoneNumber)
-{
-	const PhoneCase& c = GetParam();
-	ZelDialRulesItem site(c.site.country, c.site.extPrefix, 5, c.site.areaCode, 0, "");
-	EXPECT_EQ(c.expected, ZelNumberingRules::getInstance()->makePhoneNumber(&site, c.input));
-}
-
-// A carrier dialled abroad is dropped, one dialled towards Colombia stays; either way the site's carrier 4 is
-// dialled, and abroad the subscriber number twice.
-INSTANTIATE_TEST_SUITE_P(Sites,
-	DialableVariantsEndToEndTest,
-	::testing::Values(PhoneCase{"ColombiaAbroadWithCarrier", BOGOTA, "005 34 91 123 4567", "0004911234567911234567"},
-		PhoneCase{"ColombiaOwnCountryWithCarrier", BOGOTA, "005 57 4 234 5678", "00442345678"},
-		PhoneCase{"ColombiaMobile", BOGOTA, "+57 300 123 4567", "0033001234567"},
-		PhoneCase{"MexicoMobileOfAnotherArea", GUADALAJARA, "+52 1 55 1234 5678", "90455512345678"},
-		PhoneCase{"AustraliaLocalRate", SYDNEY, "1300 123 456", "01300123456"},
-		PhoneCase{"RussiaNineDigits", MOSCOW, "+7 812 123 456", "9812123456"}),
-	RowName());
 
 } // namespace
 } // namespace test

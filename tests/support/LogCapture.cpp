@@ -4,7 +4,6 @@
 
 #include "numbering/Logger.h"
 
-#include <algorithm>
 #include <mutex>
 
 bool Logger::m_Traces = false;
@@ -46,26 +45,11 @@ std::vector<short> LogCapture::levels()
 	return capturedLevels;
 }
 
-int LogCapture::count(const std::string& text)
-{
-	std::lock_guard<std::mutex> lock(captureMutex);
-	return static_cast<int>(std::count_if(capturedLines.begin(), capturedLines.end(),
-		[&text](const std::string& line) { return line.find(text) != std::string::npos; }));
-}
-
-std::vector<std::string> LogCapture::matching(const std::string& start, const std::string& text)
+std::vector<std::string> LogCapture::matching(const std::string& start)
 {
 	std::vector<std::string> result;
 	for (const std::string& line : lines())
-		if (line.rfind(start, 0) == 0 && line.find(text) != std::string::npos) result.push_back(line);
-	return result;
-}
-
-std::vector<std::string> LogCapture::messages()
-{
-	std::vector<std::string> result;
-	for (const std::string& line : lines())
-		result.push_back(line.substr(line.find(" - ") + 3));
+		if (line.rfind(start, 0) == 0) result.push_back(line);
 	return result;
 }
 

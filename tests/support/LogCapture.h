@@ -22,14 +22,8 @@ public:
 	/// The levels FlogWrite received, one per line.
 	static std::vector<short> levels();
 
-	/// Number of captured lines that contain text.
-	static int count(const std::string& text);
-
-	/// The captured lines that begin with start and contain text: matching("ERROR ") gives the error lines.
-	static std::vector<std::string> matching(const std::string& start, const std::string& text = "");
-
-	/// The captured lines without their level and logger name: "DEBUG N9numbering6ZelCNPE - x" gives "x".
-	static std::vector<std::string> messages();
+	/// The captured lines that begin with start: matching("ERROR ") gives the error lines.
+	static std::vector<std::string> matching(const std::string& start);
 };
 
 } // namespace test

@@ -2,10 +2,8 @@
 
 #include "trees/ZelAreaCodeTree.h"
 
-#include "numbering/Logger.h"
 #include "numbering/number_format_exception.h"
 
-#include "support/LogCapture.h"
 #include "support/RowName.h"
 #include "support/ThrowMessage.h"
 #include "trees/ZelCharsTree.h"
@@ -13,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <stdexcept>
 #include <string>
 
@@ -21,7 +18,6 @@ using numbering::number_format_exception;
 using numbering::ZelAreaCodeTree;
 using numbering::ZelCharsTree;
 using numbering::ZelCharsTreeElement;
-using numbering::test::LogCapture;
 using numbering::test::thrownMessage;
 
 namespace {
@@ -82,36 +78,6 @@ TEST_F(ZelAreaCodeTreeTest, RejectsEmptyAndNonDigitInputUnchanged)
 	EXPECT_EQ(before, tree.ToString());
 }
 
-TEST_F(ZelAreaCodeTreeTest, TracesEachInsertionWhenSwitchedOn)
-{
-	const bool saved = Logger::m_Traces;
-	Logger::m_Traces = true;
-	LogCapture::clear();
-	tree.insert("89");
-	tree.insert("8");
-	Logger::m_Traces = saved;
-	const std::string prefix = "DEBUG N9numbering15ZelAreaCodeTreeE - ";
-	const std::vector<std::string> expected{prefix + "Inserting '89' ...", prefix + "Insert successful for '89'",
-		prefix + "Inserting '8' ...", prefix + "Insert failed for '8'"};
-	EXPECT_EQ(expected, LogCapture::lines());
-}
-
-TEST(ZelAreaCodeTreeSelfTest, PrintsThreeExtractionsAndTheTree)
-{
-	::testing::internal::CaptureStdout();
-	EXPECT_EQ(0, ZelAreaCodeTree::main(nullptr));
-	const std::string output = ::testing::internal::GetCapturedStdout();
-	const std::string head = "Extract area code from '123456789' : 123456"
-							 "Extract area code from '123056789' : 123"
-							 "Extract area code from '987654321' : Root : ";
-	ASSERT_EQ(head, output.substr(0, head.size()));
-	ZelAreaCodeTree expected;
-	for (const char* code :
-		{"123", "126", "1234", "235", "456", "789", "123456", "45698", "11234556", "7894614", "4711417"})
-		expected.insert(code);
-	EXPECT_EQ(expected.ToString(), output.substr(head.size() - std::string("Root : ").size()));
-}
-
 TEST(ZelCharsTreeTest, FindsTheLongestPathIgnoringMarksButACodeNeedsAMark)
 {
 	ZelCharsTree tree;
@@ -154,20 +120,6 @@ TEST(ZelCharsTreeElementTest, StoringAPathKeepsTheMarksItFindsAndRendersEveryDes
 	EXPECT_TRUE(two->get('3')->get('4')->isAreaCode());
 	other.insert(std::string("126"));
 	EXPECT_EQ(3, other.numberOfStoredCodes());
-}
-
-TEST(ZelCharsTreeLifetimeTest, DeletingATreeFreesEveryNode)
-{
-	const int before = ZelCharsTreeElement::_count;
-	{
-		ZelCharsTree tree;
-		for (const char* code : {"30", "301", "3012", "89", "8031", "30"})
-			tree.insert(code);
-		ZelCharsTree copy;
-		copy = tree;
-		EXPECT_LT(before, ZelCharsTreeElement::_count);
-	}
-	EXPECT_EQ(before, ZelCharsTreeElement::_count);
 }
 
 } // namespace
