@@ -117,14 +117,14 @@ TEST_P(SampleAreaCodeTableTest, ReadsEveryCodeAsTheAreaOfANationalNumber)
 
 INSTANTIATE_TEST_SUITE_P(TablePlans,
 	SampleAreaCodeTableTest,
-	::testing::Values(Table{"Netherlands", "NL", "31", "20", 141, 9},
+	::testing::Values(Table{"Netherlands", "NL", "31", "20", 152, 9},
 		Table{"Belgium", "BE", "32", "2", 40, 8},
-		Table{"Austria", "AT", "43", "1", 1082, 0},
-		Table{"UnitedKingdom", "GB", "44", "20", 608, 10},
-		Table{"Germany", "DE", "49", "30", 5246, 0},
-		Table{"Argentina", "AR", "54", "11", 312, 10},
-		Table{"Australia", "AU", "61", "2", 4, 9},
-		Table{"Ireland", "IE", "353", "1", 56, 0}),
+		Table{"Austria", "AT", "43", "1", 1096, 0},
+		Table{"UnitedKingdom", "GB", "44", "20", 1488, 10},
+		Table{"Germany", "DE", "49", "30", 5307, 0},
+		Table{"Argentina", "AR", "54", "11", 322, 10},
+		Table{"Australia", "AU", "61", "2", 89, 9},
+		Table{"Ireland", "IE", "353", "1", 59, 0}),
 	numbering::test::RowName());
 
 /// A well-known number dialled in its capital, and the canonical form its country expects.
