@@ -170,4 +170,11 @@ TEST(ZelCharsTreeLifetimeTest, DeletingATreeFreesEveryNode)
 	EXPECT_EQ(before, ZelCharsTreeElement::_count);
 }
 
+TEST_F(ZelAreaCodeTreeTest, RejectsANonDigitInLastPlace)
+{
+	EXPECT_EQ("Unexpected digit:a at position: 2 in :12a",
+		thrownMessage<number_format_exception>([this] { tree.insert("12a"); }));
+	EXPECT_EQ("", tree.extractAreaCode("12a"));
+}
+
 } // namespace
