@@ -42,6 +42,7 @@ const PlanRow PLAN_ONLY[] = {
 	{"MxExtPrefixAndOneDigitShort", MX55, "901551234567", "+52 551234567"},
 	{"MxNationalNumberBeginningWithOneKeepsCountry", MX55, "011234567890", "+52 1234567890"},
 	{"MxTooShort", MX55, "123456", "123456"},
+	{"AtExtPrefixAndThreeDigits", AT1EXT9, "9234", "+43 (1) 234"},
 };
 
 const std::map<std::string, std::string> CALLING_CODES{
@@ -287,6 +288,19 @@ INSTANTIATE_TEST_SUITE_P(MorePlans,
 	MorePlansRobustnessTest,
 	::testing::Values("31", "32", "43", "44", "52", "54", "61", "353"),
 	[](const ::testing::TestParamInfo<const char*>& info) { return std::string("Plan") + info.param; });
+
+using BelgianServiceNumbersTest = MorePlansFixture;
+
+// 070 and 078 numbers keep the trunk form even when the table holds a code they begin with.
+TEST_F(BelgianServiceNumbersTest, AreNotSplitByAreaCodesOfTheTable)
+{
+	configure(Setting::Sample);
+	writeFile("r7731cnp_32.properties", areaCodeTable("Translate=1\n", {"7", "78"}));
+	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance("32"));
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"BE", "2", "0"});
+	EXPECT_EQ("+32 (0) 70123456", plan->qap_Country_MakeCanonicalNumber("070123456", site.get()));
+	EXPECT_EQ("+32 (0) 78123456", plan->qap_Country_MakeCanonicalNumber("078123456", site.get()));
+}
 
 } // namespace
 } // namespace test
