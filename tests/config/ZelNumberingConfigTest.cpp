@@ -144,7 +144,8 @@ INSTANTIATE_TEST_SUITE_P(Masks,
 		MaskCase{"KeyTooLong", "Mask_1234_1=A\n", "1234", "", " country masks loaded"},
 		MaskCase{"EmptyPatternNotCounted", "Mask_49_1=\nMask_1_1=A\n", "49", "", "country masks loaded"},
 		MaskCase{"CutStartsAtFive", "ZZMask_7_1=P\n", "k", "P", "country masks loaded"},
-		MaskCase{"MoreMasksThanLetters", manyMasks(), "124", "+C x", ""}),
+		MaskCase{"MoreMasksThanLetters", manyMasks(), "124", "+C x", ""},
+		MaskCase{"ThreeDigitCountry", "Mask_353_1=+C (A) x\n", "353", "+C (A) x", "country masks loaded"}),
 	numbering::test::RowName());
 
 /// Value of "cnp_33", expected debug line, flag then found under 0.
@@ -172,7 +173,8 @@ INSTANTIATE_TEST_SUITE_P(Values,
 		ActivationCase{"On", "Activating specific format for France", true},
 		ActivationCase{"1", "Activating specific format for France", true},
 		ActivationCase{"False", "Desactivating specific format for France", false},
-		ActivationCase{"yes", "Invalid value for property 'cnp_' : yes", true}),
+		ActivationCase{"yes", "Invalid value for property 'cnp_' : yes", true},
+		ActivationCase{"0", "Desactivating specific format for France", false}),
 	[](const ::testing::TestParamInfo<ActivationCase>& info) { return std::get<0>(info.param); });
 
 TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
