@@ -174,6 +174,8 @@ TEST_F(ZelAreaCodeTreeTest, RejectsANonDigitInLastPlace)
 {
 	EXPECT_EQ("Unexpected digit:a at position: 2 in :12a",
 		thrownMessage<number_format_exception>([this] { tree.insert("12a"); }));
+	EXPECT_EQ("Unexpected digit:a at position: 0 in :a12",
+		thrownMessage<number_format_exception>([this] { tree.insert("a12"); }));
 	EXPECT_EQ("", tree.extractAreaCode("12a"));
 }
 
