@@ -43,6 +43,7 @@ const PlanRow PLAN_ONLY[] = {
 	{"MxNationalNumberBeginningWithOneKeepsCountry", MX55, "011234567890", "+52 1234567890"},
 	{"MxTooShort", MX55, "123456", "123456"},
 	{"AtExtPrefixAndThreeDigits", AT1EXT9, "9234", "+43 (1) 234"},
+	{"AtShortNumberBehindLongExtPrefixIsLocal", {"AT", "1", "99"}, "9923", "+43 (1) 9923"},
 };
 
 const std::map<std::string, std::string> CALLING_CODES{
@@ -300,6 +301,16 @@ TEST_F(BelgianServiceNumbersTest, AreNotSplitByAreaCodesOfTheTable)
 	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"BE", "2", "0"});
 	EXPECT_EQ("+32 (0) 70123456", plan->qap_Country_MakeCanonicalNumber("070123456", site.get()));
 	EXPECT_EQ("+32 (0) 78123456", plan->qap_Country_MakeCanonicalNumber("078123456", site.get()));
+}
+
+// A table that cannot be read is reported under the plan's own name.
+TEST_P(TablePlanConstructionTest, NamesItselfWhenItsTableCannotBeRead)
+{
+	const std::string className = std::string("ZelCNP_") + GetParam().callingCode;
+	writeFile("r7731cnp_" + std::string(GetParam().callingCode) + ".properties", "AC_0000=${AC_0000}\n");
+	const std::vector<std::string> expected{"INFO N9numbering" + std::to_string(className.size()) + className + "E - " +
+											className + " : Circular reference"};
+	EXPECT_EQ(expected, infoLines());
 }
 
 } // namespace

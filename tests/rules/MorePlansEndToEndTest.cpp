@@ -78,6 +78,8 @@ const TripRow BELGIUM[] = {
 	{"ExtPrefixAndLocal", "02234567", "+32 (2) 2234567", "022234567", "022234567", "003222234567"},
 	{"Emergency", "112", "112"},
 	{"InternationalOneDigitShort", "+32 2 234 567", "+32 (0) 2234567", "02234567", "02234567", "00322234567"},
+	{"MobileBeforeLocalBehindLongExtPrefix", "0472345678", "+32 (0) 472345678", nullptr, nullptr, nullptr,
+		Setting::Sample, {"BE", "2", "047"}},
 };
 
 const TripRow AUSTRIA[] = {
@@ -147,6 +149,8 @@ const TripRow ARGENTINA[] = {
 	{"InternationalUnsplittable", "+54 9 999 123 4567", "99991234567"},
 	{"LocalWithoutTranslation", "43211234", "43211234", nullptr, nullptr, nullptr, Setting::NoTranslate},
 	{"LocalBeginningWithOne", "12345678", "12345678"},
+	{"ThreeDigitsBehindExtPrefix", "0234", "+54 (1234567) 234", nullptr, nullptr, nullptr, Setting::Sample,
+		{"AR", "1234567", "0"}},
 };
 
 const TripRow MEXICO[] = {
