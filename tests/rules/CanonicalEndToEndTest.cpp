@@ -364,4 +364,16 @@ TEST_F(SameFormEverywhereTest, DialledNumberIsNational)
 	EXPECT_EQ("12345678", ZelNumberingRules::getInstance()->makeCanonicalNumber(&liechtenstein, "12345678", ""));
 }
 
+using BlankNumberTest = CanonicalSitesFixture;
+
+TEST_F(BlankNumberTest, IsRefusedAsAnEmptyNumberOnceTrimmed)
+{
+	EXPECT_EQ("", rules()->makeCanonicalNumber(site("Berlin"), "   ", "+C"));
+	const std::vector<std::string> expected{
+		"ERROR N9numbering17ZelNumberingRulesE - ZelNumberingRules::makeCanonicalNumber exception: 'strPhoneNumber' "
+		"parameter can not be null - PhoneNumber: '', Pattern: '+C'\n  DialRules: " +
+		site("Berlin")->ToString()};
+	EXPECT_EQ(expected, LogCapture::lines());
+}
+
 } // namespace
