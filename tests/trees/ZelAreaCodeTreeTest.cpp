@@ -170,13 +170,21 @@ TEST(ZelCharsTreeLifetimeTest, DeletingATreeFreesEveryNode)
 	EXPECT_EQ(before, ZelCharsTreeElement::_count);
 }
 
-TEST_F(ZelAreaCodeTreeTest, RejectsANonDigitInLastPlace)
+TEST_F(ZelAreaCodeTreeTest, RejectsANonDigitInFirstOrLastPlace)
 {
 	EXPECT_EQ("Unexpected digit:a at position: 2 in :12a",
 		thrownMessage<number_format_exception>([this] { tree.insert("12a"); }));
 	EXPECT_EQ("Unexpected digit:a at position: 0 in :a12",
 		thrownMessage<number_format_exception>([this] { tree.insert("a12"); }));
 	EXPECT_EQ("", tree.extractAreaCode("12a"));
+}
+
+TEST(ZelCharsTreeTest, StoresAnyCharacterEvenNul)
+{
+	ZelCharsTree tree;
+	tree.insert(std::string("1\0", 2));
+	EXPECT_EQ("1", tree.isPresent("1"));
+	EXPECT_TRUE(tree.isAreaCode(std::string("1\0", 2)));
 }
 
 } // namespace
