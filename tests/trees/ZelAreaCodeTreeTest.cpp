@@ -187,4 +187,24 @@ TEST(ZelCharsTreeTest, StoresAnyCharacterEvenNul)
 	EXPECT_TRUE(tree.isAreaCode(std::string("1\0", 2)));
 }
 
+TEST(ZelCharsTreeElementTest, MergesASubtreeUnderAnExistingNodeAndFreesOnlyItsHead)
+{
+	const int before = ZelCharsTreeElement::_count;
+	{
+		ZelCharsTreeElement root('\0');
+		root.insert(std::string("12"));
+		auto* head = new ZelCharsTreeElement('1');
+		auto* five = new ZelCharsTreeElement('5');
+		five->setAreaCode(true);
+		head->insert(five);
+		root.insert(head);
+		ZelCharsTreeElement* one = root.get('1');
+		EXPECT_TRUE(one->get('2')->isAreaCode());
+		EXPECT_TRUE(one->get('5')->isAreaCode());
+		EXPECT_FALSE(one->isAreaCode());
+		EXPECT_EQ(before + 4, ZelCharsTreeElement::_count);
+	}
+	EXPECT_EQ(before, ZelCharsTreeElement::_count);
+}
+
 } // namespace
