@@ -140,7 +140,8 @@ INSTANTIATE_TEST_SUITE_P(Masks,
 		MaskCase{"KeyTooLong", "Mask_1234_1=A\n", "1234", ""},
 		MaskCase{"EmptyPatternNotCounted", "Mask_49_1=\nMask_1_1=A\n", "49", ""},
 		MaskCase{"CutStartsAtFive", "ZZMask_7_1=P\n", "k", "P"},
-		MaskCase{"MoreMasksThanLetters", manyMasks(), "124", "+C x"}),
+		MaskCase{"MoreMasksThanLetters", manyMasks(), "124", "+C x"},
+		MaskCase{"ThreeDigitCountry", "Mask_353_1=+C (A) x\n", "353", "+C (A) x"}),
 	numbering::test::RowName());
 
 /// Value of "cnp_33", then whether the flag kept under 0 is on.
@@ -172,7 +173,8 @@ INSTANTIATE_TEST_SUITE_P(Values,
 		ActivationCase{"On", true},
 		ActivationCase{"1", true},
 		ActivationCase{"False", false},
-		ActivationCase{"yes", true}),
+		ActivationCase{"yes", true},
+		ActivationCase{"0", false}),
 	[](const ::testing::TestParamInfo<ActivationCase>& info) { return info.param.first; });
 
 TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)

@@ -42,6 +42,8 @@ const PlanRow PLAN_ONLY[] = {
 	{"MxExtPrefixAndOneDigitShort", MX55, "901551234567", "+52 551234567"},
 	{"MxNationalNumberBeginningWithOneKeepsCountry", MX55, "011234567890", "+52 1234567890"},
 	{"MxTooShort", MX55, "123456", "123456"},
+	{"AtExtPrefixAndThreeDigits", AT1EXT9, "9234", "+43 (1) 234"},
+	{"AtShortNumberBehindLongExtPrefixIsLocal", {"AT", "1", "99"}, "9923", "+43 (1) 9923"},
 };
 
 const std::map<std::string, std::string> CALLING_CODES{
@@ -228,6 +230,29 @@ INSTANTIATE_TEST_SUITE_P(MorePlans,
 	MorePlansRobustnessTest,
 	::testing::Values("31", "32", "43", "44", "52", "54", "61", "353"),
 	[](const ::testing::TestParamInfo<const char*>& info) { return std::string("Plan") + info.param; });
+
+using BelgianServiceNumbersTest = MorePlansFixture;
+
+// 070 and 078 numbers keep the trunk form even when the table holds a code they begin with.
+TEST_F(BelgianServiceNumbersTest, AreNotSplitByAreaCodesOfTheTable)
+{
+	configure(Setting::Sample);
+	writeFile("r7731cnp_32.properties", areaCodeTable("Translate=1\n", {"7", "78"}));
+	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance("32"));
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"BE", "2", "0"});
+	EXPECT_EQ("+32 (0) 70123456", plan->qap_Country_MakeCanonicalNumber("070123456", site.get()));
+	EXPECT_EQ("+32 (0) 78123456", plan->qap_Country_MakeCanonicalNumber("078123456", site.get()));
+}
+
+// A table that cannot be read is reported under the plan's own name.
+TEST_P(TablePlanConstructionTest, NamesItselfWhenItsTableCannotBeRead)
+{
+	const std::string className = std::string("ZelCNP_") + GetParam().callingCode;
+	writeFile("r7731cnp_" + std::string(GetParam().callingCode) + ".properties", "AC_0000=${AC_0000}\n");
+	const std::vector<std::string> expected{"INFO N9numbering" + std::to_string(className.size()) + className + "E - " +
+											className + " : Circular reference"};
+	EXPECT_EQ(expected, infoLines());
+}
 
 } // namespace
 } // namespace test

@@ -186,7 +186,8 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		GermanConversion{"SubscriberTooShort", "9", "", "0803112", "0803112"},
 		GermanConversion{"NothingBehindCode", "9", "", "039209", "039209"},
 		GermanConversion{"InternationalNotBehindPrefix", "9", "", "0049891234", "0049891234"},
-		GermanConversion{"BinaryNumber", "0", "", "0\x01\xff\x7f", "0\x01\xff\x7f"}),
+		GermanConversion{"BinaryNumber", "0", "", "0\x01\xff\x7f", "0\x01\xff\x7f"},
+		GermanConversion{"ThreeDigitsBehindPrefix", "9", "7731", "9234", "+49 (7731) 234"}),
 	RowName());
 
 /// Table file and default twin ("": missing), one conversion at a site in 7731, info lines about missing files.

@@ -121,7 +121,8 @@ INSTANTIATE_TEST_SUITE_P(Canonical,
 		// The German mask has laid the subscriber part out already, and that part is copied as it stands.
 		Case{"GSMLaidOutSubscriber", Op::GSM, "Berlin", "030 1234567", "+4930123 4567"},
 		Case{"GSMTrunkPrefixDropped", Op::GSM, "Rome", "0612345678", "+39612345678"},
-		Case{"GSMInternal", Op::GSM, "Berlin", "1234", "1234"}),
+		Case{"GSMInternal", Op::GSM, "Berlin", "1234", "1234"},
+		Case{"TwoStarsAreNoMarker", Op::Canonical, "Berlin", " **21# ", "**21#"}),
 	RowName());
 
 // makePhoneNumber converts dialled numbers too, addExternalPrefix only cleans them.
@@ -250,6 +251,30 @@ TEST_F(TracesTest, DebugLinesAreWrittenOnlyWhenTracesAreOn)
 	EXPECT_EQ(std::vector<std::string>(), debugLines());
 	Logger::m_Traces = true;
 	EXPECT_EQ("DEBUG N9numbering17ZelNumberingRulesE - MakeCanonicalNumber with : 089 1234567", debugLines().at(0));
+}
+
+using SameFormEverywhereTest = numbering::test::ConfigFixture;
+
+// Without a long-distance rule, a local rule "G" means that local and national numbers look alike.
+TEST_F(SameFormEverywhereTest, DialledNumberIsNational)
+{
+	writeFile("dialingrules.properties", "LU=352:00:EF::G:Luxembourg:P\nLI=423:00:EF::F:Liechtenstein:P\n");
+	ZelDialRulesItem luxembourg("LU", "0", 5, "", 0, "");
+	ZelDialRulesItem liechtenstein("LI", "0", 5, "", 0, "");
+	EXPECT_EQ("+352 12345678", ZelNumberingRules::getInstance()->makeCanonicalNumber(&luxembourg, "12345678", ""));
+	EXPECT_EQ("12345678", ZelNumberingRules::getInstance()->makeCanonicalNumber(&liechtenstein, "12345678", ""));
+}
+
+using BlankNumberTest = CanonicalSitesFixture;
+
+TEST_F(BlankNumberTest, IsRefusedAsAnEmptyNumberOnceTrimmed)
+{
+	EXPECT_EQ("", rules()->makeCanonicalNumber(site("Berlin"), "   ", "+C"));
+	const std::vector<std::string> expected{
+		"ERROR N9numbering17ZelNumberingRulesE - ZelNumberingRules::makeCanonicalNumber exception: 'strPhoneNumber' "
+		"parameter can not be null - PhoneNumber: '', Pattern: '+C'\n  DialRules: " +
+		site("Berlin")->ToString()};
+	EXPECT_EQ(expected, LogCapture::lines());
 }
 
 } // namespace

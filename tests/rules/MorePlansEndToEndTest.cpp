@@ -64,6 +64,9 @@ const TripRow NETHERLANDS[] = {
 	{"ShortCode", "14020", "14020"},
 	{"LocalWithoutTranslation", "6123456", "6123456", nullptr, nullptr, nullptr, Setting::NoTranslate},
 	{"InternationalOneDigitShort", "+31 20 123 456", "+31 (0) 20123456", "020123456", "020123456", "003120123456"},
+	{"LocalBeginningWithOne", "1234567", "1234567"},
+	{"SecondAreaOfTwoAreaSite", "0101234567", "+31 (10) 1234567", "0101234567", "1234567", "0031101234567",
+		Setting::Sample, {}, {"NL", "20,10", "0"}},
 };
 
 const TripRow BELGIUM[] = {
@@ -75,6 +78,8 @@ const TripRow BELGIUM[] = {
 	{"ExtPrefixAndLocal", "02234567", "+32 (2) 2234567", "022234567", "022234567", "003222234567"},
 	{"Emergency", "112", "112"},
 	{"InternationalOneDigitShort", "+32 2 234 567", "+32 (0) 2234567", "02234567", "02234567", "00322234567"},
+	{"MobileBeforeLocalBehindLongExtPrefix", "0472345678", "+32 (0) 472345678", nullptr, nullptr, nullptr,
+		Setting::Sample, {"BE", "2", "047"}},
 };
 
 const TripRow AUSTRIA[] = {
@@ -110,6 +115,9 @@ const TripRow IRELAND[] = {
 	{"InternationalFreephone", "+353 1800 123 456", "+353 (1800) 123456", "01800123456", "01800123456",
 		"003531800123456"},
 	{"ExtPrefixZeroAndFreephone", "01800123456", "1800123456", nullptr, nullptr, nullptr, Setting::Sample, IE1EXT0},
+	{"LocalOfFiveDigits", "23456", "+353 (1) 23456", "23456", "0123456", "00353123456"},
+	{"LocalOfEightDigits", "23456789", "+353 (1) 23456789", "23456789", "0123456789", "00353123456789"},
+	{"LocalOfNineDigits", "234567890", "234567890"},
 };
 
 const TripRow AUSTRALIA[] = {
@@ -123,6 +131,7 @@ const TripRow AUSTRALIA[] = {
 	{"Emergency", "000", "000"},
 	{"International1300", "+61 1300 123 456", "+61 1300 123456", "1300123456", "1300123456", "00611300123456"},
 	{"InternationalOneDigitShort", "+61 2 1234 567", "+61 (0) 21234567", "021234567", "021234567", "006121234567"},
+	{"Freephone1800", "1800123456", "+61 1800 123456", "1800123456", "1800123456", "00611800123456"},
 };
 
 const TripRow ARGENTINA[] = {
@@ -139,6 +148,9 @@ const TripRow ARGENTINA[] = {
 		"005491123456789"},
 	{"InternationalUnsplittable", "+54 9 999 123 4567", "99991234567"},
 	{"LocalWithoutTranslation", "43211234", "43211234", nullptr, nullptr, nullptr, Setting::NoTranslate},
+	{"LocalBeginningWithOne", "12345678", "12345678"},
+	{"ThreeDigitsBehindExtPrefix", "0234", "+54 (1234567) 234", nullptr, nullptr, nullptr, Setting::Sample,
+		{"AR", "1234567", "0"}},
 };
 
 const TripRow MEXICO[] = {

@@ -81,7 +81,11 @@ INSTANTIATE_TEST_SUITE_P(Readers,
 		ReaderCase{"GSMUnknownCountryKeepsArea", GSM, "+999 (0) 12", "+999012"},
 		ReaderCase{"GSMNothingAfterTheArea", GSM, "+33 (1) ", "+331"},
 		ReaderCase{"GSMWithoutParenthesesUnchanged", GSM, "+4912345", "+4912345"},
-		ReaderCase{"GSMServiceCodeUnchanged", GSM, "+33 (1) ***12", "+33 (1) ***12"}),
+		ReaderCase{"GSMServiceCodeUnchanged", GSM, "+33 (1) ***12", "+33 (1) ***12"},
+		ReaderCase{"ValidRebuildsWrongBracket", VALID, "+33 )1) 23", "+33 (1) 23"},
+		ReaderCase{"ValidRebuildsDoubleBracket", VALID, "+33 ((1) 23", "+33 (1) 23"},
+		ReaderCase{"ValidDropsSeparatorBeforeSubscriber", VALID, "+33 (1) -23", "+33 (1) 23"},
+		ReaderCase{"CountryMustFollowThePlus", COUNTRY, "+ 33 (1) 2", ""}),
 	test::RowName());
 
 } // namespace

@@ -91,7 +91,10 @@ INSTANTIATE_TEST_SUITE_P(SpanishSite,
 		DialCase{"PlusNumberKeepsPrefixEvenWhenShort", test::Op::Prefix, "+34 (1) 23456789", "023456789", 10, ""},
 		DialCase{"MarkedNumberUntouched", test::Op::Prefix, " 12***3 ", " 12***3 ", 4, ""},
 		DialCase{"PhoneNumberConvertsDialled", test::Op::Phone, "01 23 45 67 89", "00123456789", 4, ""},
-		DialCase{"PhoneNumberOnlyCleansServiceCode", test::Op::Phone, "*12#", "0*12#", 4, ""}),
+		DialCase{"PhoneNumberOnlyCleansServiceCode", test::Op::Phone, "*12#", "0*12#", 4, ""},
+		DialCase{"PlusNumberDialledWithPrefixGetsNoSecond", test::Op::Prefix, "+34 (4) 12345678", "0412345678", 11, ""},
+		DialCase{"OpeningBracketAloneIsNoArea", test::Op::Dial, "+34 (1 23456789", "0123456789", 4, ""},
+		DialCase{"ClosingBracketAloneIsNoArea", test::Op::Dial, "+34 1) 23456789", "0123456789", 4, ""}),
 	numbering::test::RowName());
 
 using ZelNumberingRulesCanonicalErrorTest = ZelNumberingRulesDialableTest;

@@ -122,4 +122,55 @@ TEST(ZelCharsTreeElementTest, StoringAPathKeepsTheMarksItFindsAndRendersEveryDes
 	EXPECT_EQ(3, other.numberOfStoredCodes());
 }
 
+TEST(ZelCharsTreeLifetimeTest, DeletingATreeFreesEveryNode)
+{
+	const int before = ZelCharsTreeElement::_count;
+	{
+		ZelCharsTree tree;
+		for (const char* code : {"30", "301", "3012", "89", "8031", "30"})
+			tree.insert(code);
+		ZelCharsTree copy;
+		copy = tree;
+		EXPECT_LT(before, ZelCharsTreeElement::_count);
+	}
+	EXPECT_EQ(before, ZelCharsTreeElement::_count);
+}
+
+TEST_F(ZelAreaCodeTreeTest, RejectsANonDigitInFirstOrLastPlace)
+{
+	EXPECT_EQ("Unexpected digit:a at position: 2 in :12a",
+		thrownMessage<number_format_exception>([this] { tree.insert("12a"); }));
+	EXPECT_EQ("Unexpected digit:a at position: 0 in :a12",
+		thrownMessage<number_format_exception>([this] { tree.insert("a12"); }));
+	EXPECT_EQ("", tree.extractAreaCode("12a"));
+}
+
+TEST(ZelCharsTreeTest, StoresAnyCharacterEvenNul)
+{
+	ZelCharsTree tree;
+	tree.insert(std::string("1\0", 2));
+	EXPECT_EQ("1", tree.isPresent("1"));
+	EXPECT_TRUE(tree.isAreaCode(std::string("1\0", 2)));
+}
+
+TEST(ZelCharsTreeElementTest, MergesASubtreeUnderAnExistingNodeAndFreesOnlyItsHead)
+{
+	const int before = ZelCharsTreeElement::_count;
+	{
+		ZelCharsTreeElement root('\0');
+		root.insert(std::string("12"));
+		auto* head = new ZelCharsTreeElement('1');
+		auto* five = new ZelCharsTreeElement('5');
+		five->setAreaCode(true);
+		head->insert(five);
+		root.insert(head);
+		ZelCharsTreeElement* one = root.get('1');
+		EXPECT_TRUE(one->get('2')->isAreaCode());
+		EXPECT_TRUE(one->get('5')->isAreaCode());
+		EXPECT_FALSE(one->isAreaCode());
+		EXPECT_EQ(before + 4, ZelCharsTreeElement::_count);
+	}
+	EXPECT_EQ(before, ZelCharsTreeElement::_count);
+}
+
 } // namespace
