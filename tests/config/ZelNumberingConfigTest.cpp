@@ -378,4 +378,11 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"Empty", "", "", "", "", ""}),
 	numbering::test::RowName());
 
+TEST_F(ZelNumberingConfigTest, ActivationOfAThreeDigitCountryIsRead)
+{
+	writeFile("dialingrules.properties", "IE=353:00:EFG:0FG:G:Ireland:P\n");
+	writeFile("specific_format_activation.properties", "cnp_353=off\n");
+	EXPECT_FALSE(load().isSpecificFormatActiveForCountry("0"));
+}
+
 } // namespace
