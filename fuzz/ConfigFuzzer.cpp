@@ -94,26 +94,12 @@ void removeConfigDir()
 /// The file name the fuzzed content is written to, and the table whose site converts the numbers.
 const TableRow& chooseFile(std::uint8_t kind, std::uint8_t tableChoice, std::string& name)
 {
-	const std::size_t tableCount = sizeof(tables) / sizeof(tables[0]);
-	const TableRow& table = tables[tableChoice % tableCount];
-	switch (kind % 5)
-	{
-	case 0:
-		name = "dialingrules.properties";
-		return table;
-	case 1:
-		name = "qap_cnp_mask.properties";
-		return table;
-	case 2:
-		name = "specific_format_activation.properties";
-		return table;
-	case 3:
-		name = std::string("r7731cnp_") + table.countryNumber + ".properties";
-		return table;
-	default:
-		name = "r7731cnp_57.properties";
-		return colombia;
-	}
+	const char* const configurationFiles[] = {"dialingrules", "qap_cnp_mask", "specific_format_activation"};
+	const TableRow& table = tables[tableChoice % (sizeof(tables) / sizeof(tables[0]))];
+	const TableRow& chosen = kind % 5 == 4 ? colombia : table;
+	name = kind % 5 < 3 ? configurationFiles[kind % 5] : std::string("r7731cnp_") + chosen.countryNumber;
+	name += ".properties";
+	return chosen;
 }
 
 /// A site in the country, or in the default country when the loaded dialing rules do not know it.

@@ -72,7 +72,7 @@ def count(directories):
 code = count(d for d in ("include", "src", "tools", "bench", "python") if (root / d).is_dir())
 tests = count(d for d in ("tests", "fuzz") if (root / d).is_dir())
 ratio = tests / code if code else 0.0
-print(f"code {code}  tests {tests}  ratio {ratio:.2f}")
+print(f"code {code}  tests {tests}  ratio {ratio:.2f}", flush=True)
 if ratio > max_ratio:
     print(f"error: the tests are {ratio:.2f} of the code, more than {max_ratio:.2f}", file=sys.stderr)
     sys.exit(1)

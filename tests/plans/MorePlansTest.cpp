@@ -204,33 +204,6 @@ TEST_F(ZelDialable54FallbackTest, DialsAreaAndNumberWithoutArgentinePlan)
 	EXPECT_EQ("91123456789", maker->MakeLocalOrLongDistDialableNumber(area, dest, rule, site.get()));
 }
 
-/// Inputs that no plan reads: each must come back unchanged, whatever the plan and the site.
-const std::string UNREADABLE[] = {"", "0", "00", "000", "0000", std::string(3, '\0'), std::string("0\0\xff\x80", 4),
-	"0" + std::string(16, '0'), "00" + std::string(200, '5'), "+++", "0(1) 2"};
-
-const SiteSetup SITES[] = {{"FR", "1", "0"}, {"FR", "", ""}, {"FR", "1234567890123", "00000"}, {"FR", "22", "9"}};
-
-class MorePlansRobustnessTest: public MorePlansFixture, public ::testing::WithParamInterface<const char*>
-{
-};
-
-TEST_P(MorePlansRobustnessTest, ReadsOddNumbersSafely)
-{
-	configure(Setting::Sample);
-	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(GetParam()));
-	for (const SiteSetup& setup : SITES)
-	{
-		const std::unique_ptr<ZelDialRulesItem> site = makeSite(setup);
-		for (const std::string& number : UNREADABLE)
-			EXPECT_EQ(number, plan->qap_Country_MakeCanonicalNumber(number, site.get())) << siteName(setup);
-	}
-}
-
-INSTANTIATE_TEST_SUITE_P(MorePlans,
-	MorePlansRobustnessTest,
-	::testing::Values("31", "32", "43", "44", "52", "54", "61", "353"),
-	[](const ::testing::TestParamInfo<const char*>& info) { return std::string("Plan") + info.param; });
-
 using BelgianServiceNumbersTest = MorePlansFixture;
 
 // 070 and 078 numbers keep the trunk form even when the table holds a code they begin with.

@@ -30,8 +30,10 @@ using numbering::test::RowName;
 
 namespace {
 
-/// Germany and Colombia with plans, Spain (no trunk prefix), Italy (trunk 0) and Portugal (local and national
-/// alike) without; "Unconfigured" is a default record of a country ("FR") the configuration does not know.
+/// Germany and Colombia with plans, Spain (no trunk prefix), Italy (trunk 0), Portugal (long-distance rule E,
+/// local rule F), Luxembourg (no long-distance rule, local rule G: local and national numbers alike) and
+/// Liechtenstein (no long-distance rule, local rule F) without; "Unconfigured" is a default record of a country
+/// ("FR") the configuration does not know.
 class CanonicalSitesFixture: public numbering::test::ConfigFixture
 {
 protected:
@@ -43,6 +45,8 @@ ES=34:00:EF:::Spain:P
 IT=39:00:EF:0F:F:Italy:P
 PT=351:00:EF:E:F:Portugal:P
 CO=57:00:EF:0F:F:Colombia:P
+LU=352:00:EF::G:Luxembourg:P
+LI=423:00:EF::F:Liechtenstein:P
 )");
 		writeFile("r7731cnp_57.properties", "OP_DEFAULT=4\nOP_0000=5\nOP_0001=7\n");
 		writeFile("qap_cnp_mask.properties", "Mask_49_1=+C (A) xxx xxxx\n");
@@ -54,6 +58,8 @@ CO=57:00:EF:0F:F:Colombia:P
 		m_Sites["Rome"] = std::make_unique<ZelDialRulesItem>("IT", "0", 5, "6", 0, "");
 		m_Sites["Lisbon"] = std::make_unique<ZelDialRulesItem>("PT", "0", 5, "21", 0, "");
 		m_Sites["Bogota"] = std::make_unique<ZelDialRulesItem>("CO", "0", 5, "1", 0, "");
+		m_Sites["Luxembourg"] = std::make_unique<ZelDialRulesItem>("LU", "0", 5, "", 0, "");
+		m_Sites["Vaduz"] = std::make_unique<ZelDialRulesItem>("LI", "0", 5, "", 0, "");
 		m_Sites["Unconfigured"] = std::make_unique<ZelDialRulesItem>();
 		rules();
 		LogCapture::clear();
@@ -113,6 +119,8 @@ INSTANTIATE_TEST_SUITE_P(Canonical,
 		Case{"UnknownCallingCodeStaysDialled", Op::Canonical, "Madrid", "00999 1234567", "009991234567"},
 		Case{"NationalWithoutTrunkPrefix", Op::Canonical, "Madrid", "911234567", "+34 911234567"},
 		Case{"LocalOrNationalUnknown", Op::Canonical, "Lisbon", "211234567", "211234567"},
+		Case{"LocalAndNationalAlikeIsNational", Op::Canonical, "Luxembourg", "12345678", "+352 12345678"},
+		Case{"NoLongDistanceRuleWithoutLocalG", Op::Canonical, "Vaduz", "12345678", "12345678"},
 		Case{"AbroadDropsCarrierCode", Op::Canonical, "Bogota", "005 34 91 123 4567", "+34 911234567"},
 		Case{"ExtPrefixRemovedFirst", Op::CanonicalWithExtPrefix, "Berlin", "0030 1234567", "+49 (30) 123 4567"},
 		Case{"WithoutExtPrefixKept", Op::CanonicalWithExtPrefix, "Berlin", "1234", "1234"},
@@ -204,6 +212,7 @@ struct FailureCase
 	const char* site;
 	const char* input;
 	const char* cause;
+	const char* quoted = nullptr; ///< the number as the error line quotes it, when not the input
 };
 
 class GuardedFailureTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<FailureCase>
@@ -220,8 +229,9 @@ TEST_P(GuardedFailureTest, LogsOneErrorLineAndGivesNothing)
 	const std::string pattern = c.op == Op::Canonical ? ", Pattern: '+C'" : "";
 	const std::string dialRules = site(c.site) ? site(c.site)->ToString() : "";
 	const std::vector<std::string> expected{std::string("ERROR N9numbering17ZelNumberingRulesE - ZelNumberingRules::") +
-											operation + " exception: " + c.cause + " - PhoneNumber: '" + c.input + "'" +
-											pattern + "\n  DialRules: " + dialRules};
+											operation + " exception: " + c.cause + " - PhoneNumber: '" +
+											(c.quoted ? c.quoted : c.input) + "'" + pattern +
+											"\n  DialRules: " + dialRules};
 	EXPECT_EQ(expected, LogCapture::lines());
 }
 
@@ -235,6 +245,8 @@ INSTANTIATE_TEST_SUITE_P(Operations,
 		FailureCase{"CanonicalUnconfiguredSite", Op::Canonical, "Unconfigured", "0301234567",
 			"Country code 'FR' is not supported"},
 		FailureCase{"PhoneNumberEmpty", Op::Phone, "Berlin", "", "'strPhoneNumber' parameter can not be null"},
+		FailureCase{"CanonicalBlanksAreEmptyOnceTrimmed", Op::Canonical, "Berlin", "   ",
+			"'strPhoneNumber' parameter can not be null", ""},
 		FailureCase{"PrefixNoSite", Op::Prefix, "none", "1234", "'myZelDialRulesItem' parameter can not be null"}),
 	RowName());
 
@@ -251,30 +263,6 @@ TEST_F(TracesTest, DebugLinesAreWrittenOnlyWhenTracesAreOn)
 	EXPECT_EQ(std::vector<std::string>(), debugLines());
 	Logger::m_Traces = true;
 	EXPECT_EQ("DEBUG N9numbering17ZelNumberingRulesE - MakeCanonicalNumber with : 089 1234567", debugLines().at(0));
-}
-
-using SameFormEverywhereTest = numbering::test::ConfigFixture;
-
-// Without a long-distance rule, a local rule "G" means that local and national numbers look alike.
-TEST_F(SameFormEverywhereTest, DialledNumberIsNational)
-{
-	writeFile("dialingrules.properties", "LU=352:00:EF::G:Luxembourg:P\nLI=423:00:EF::F:Liechtenstein:P\n");
-	ZelDialRulesItem luxembourg("LU", "0", 5, "", 0, "");
-	ZelDialRulesItem liechtenstein("LI", "0", 5, "", 0, "");
-	EXPECT_EQ("+352 12345678", ZelNumberingRules::getInstance()->makeCanonicalNumber(&luxembourg, "12345678", ""));
-	EXPECT_EQ("12345678", ZelNumberingRules::getInstance()->makeCanonicalNumber(&liechtenstein, "12345678", ""));
-}
-
-using BlankNumberTest = CanonicalSitesFixture;
-
-TEST_F(BlankNumberTest, IsRefusedAsAnEmptyNumberOnceTrimmed)
-{
-	EXPECT_EQ("", rules()->makeCanonicalNumber(site("Berlin"), "   ", "+C"));
-	const std::vector<std::string> expected{
-		"ERROR N9numbering17ZelNumberingRulesE - ZelNumberingRules::makeCanonicalNumber exception: 'strPhoneNumber' "
-		"parameter can not be null - PhoneNumber: '', Pattern: '+C'\n  DialRules: " +
-		site("Berlin")->ToString()};
-	EXPECT_EQ(expected, LogCapture::lines());
 }
 
 } // namespace

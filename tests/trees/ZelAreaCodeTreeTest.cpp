@@ -122,20 +122,6 @@ TEST(ZelCharsTreeElementTest, StoringAPathKeepsTheMarksItFindsAndRendersEveryDes
 	EXPECT_EQ(3, other.numberOfStoredCodes());
 }
 
-TEST(ZelCharsTreeLifetimeTest, DeletingATreeFreesEveryNode)
-{
-	const int before = ZelCharsTreeElement::_count;
-	{
-		ZelCharsTree tree;
-		for (const char* code : {"30", "301", "3012", "89", "8031", "30"})
-			tree.insert(code);
-		ZelCharsTree copy;
-		copy = tree;
-		EXPECT_LT(before, ZelCharsTreeElement::_count);
-	}
-	EXPECT_EQ(before, ZelCharsTreeElement::_count);
-}
-
 TEST_F(ZelAreaCodeTreeTest, RejectsANonDigitInFirstOrLastPlace)
 {
 	EXPECT_EQ("Unexpected digit:a at position: 2 in :12a",
@@ -153,24 +139,20 @@ TEST(ZelCharsTreeTest, StoresAnyCharacterEvenNul)
 	EXPECT_TRUE(tree.isAreaCode(std::string("1\0", 2)));
 }
 
+// Freeing the merged children too, or not freeing the head, shows in the sanitized run.
 TEST(ZelCharsTreeElementTest, MergesASubtreeUnderAnExistingNodeAndFreesOnlyItsHead)
 {
-	const int before = ZelCharsTreeElement::_count;
-	{
-		ZelCharsTreeElement root('\0');
-		root.insert(std::string("12"));
-		auto* head = new ZelCharsTreeElement('1');
-		auto* five = new ZelCharsTreeElement('5');
-		five->setAreaCode(true);
-		head->insert(five);
-		root.insert(head);
-		ZelCharsTreeElement* one = root.get('1');
-		EXPECT_TRUE(one->get('2')->isAreaCode());
-		EXPECT_TRUE(one->get('5')->isAreaCode());
-		EXPECT_FALSE(one->isAreaCode());
-		EXPECT_EQ(before + 4, ZelCharsTreeElement::_count);
-	}
-	EXPECT_EQ(before, ZelCharsTreeElement::_count);
+	ZelCharsTreeElement root('\0');
+	root.insert(std::string("12"));
+	auto* head = new ZelCharsTreeElement('1');
+	auto* five = new ZelCharsTreeElement('5');
+	five->setAreaCode(true);
+	head->insert(five);
+	root.insert(head);
+	ZelCharsTreeElement* one = root.get('1');
+	EXPECT_TRUE(one->get('2')->isAreaCode());
+	EXPECT_TRUE(one->get('5')->isAreaCode());
+	EXPECT_FALSE(one->isAreaCode());
 }
 
 } // namespace
