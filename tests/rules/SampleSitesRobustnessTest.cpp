@@ -102,6 +102,7 @@ TEST_F(SampleSitesTest, EightThreadsGetTheSingleThreadedResults)
 	// What the README asks of a host before it goes concurrent, but with only every other site's plan built, so
 	// that the threads race to build the others.
 	resetLibrary();
+	ZelNumberingRules::getInstance();
 	ZelNumberingConfig* config = ZelNumberingConfig::getInstance();
 	for (const std::string& name : config->getCountryList())
 		ZelDialableManager::getInstance()->getDialable(config->getCountryNumber(config->getCountryCodeFromName(name)));
