@@ -369,6 +369,13 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"Empty", "", "", "", "", ""}),
 	numbering::test::RowName());
 
+TEST_F(ZelNumberingConfigTest, FirstActivationSwitchReadStays)
+{
+	writeFile("dialingrules.properties", DIALING_RULES);
+	writeFile("specific_format_activation.properties", "cnp_32=on\ncnp_33=off\n");
+	EXPECT_TRUE(load().isSpecificFormatActiveForCountry("0"));
+}
+
 TEST_F(ZelNumberingConfigTest, ActivationOfAThreeDigitCountryIsRead)
 {
 	writeFile("dialingrules.properties", "IE=353:00:EFG:0FG:G:Ireland:P\n");

@@ -231,7 +231,8 @@ INSTANTIATE_TEST_SUITE_P(Files,
 		FileRow{
 			"SiteFileHidesDefaultTwin", "AC_0000=89\n", "AC_0000=8031\n", "0", "0803112345", "+49 (7731) 803112345", 0},
 		FileRow{"NoFileNational", "", "", "0", "0891234567", "+49 (7731) 891234567", 1},
-		FileRow{"NoFileLocal", "", "", "0", "1234567", "+49 (7731) 1234567", 1}),
+		FileRow{"NoFileLocal", "", "", "0", "1234567", "+49 (7731) 1234567", 1},
+		FileRow{"ThreeDigitsAfterTrunkPrefix", "AC_0000=89\n", "", "9", "0301", "+49 (7731) 301", 0}),
 	RowName());
 
 /// The plan of a site's country, as the factory makes it.
@@ -292,6 +293,7 @@ const Conversion CONVERSIONS[] = {
 	{"RuBehindExternalPrefix", "RU", "089161234567", "+7 (916) 1234567", "0"},
 	{"FrWithoutRuleNoTrunkPrefix", "FR", "123456789", "123456789", "", "", 0, "", true},
 	{"ChNational", "CH", "0441234567", "+41 (44) 1234567"},
+	{"ChEightyIsNoFreephone", "CH", "0801234567", "+41 (80) 1234567"},
 	{"ChNineNotZurich", "CH", "022345678", "022345678"},
 	{"ChTenWithoutTrunkPrefix", "CH", "1441234567", "1441234567"},
 	{"ChEight", "CH", "04412345", "04412345"},

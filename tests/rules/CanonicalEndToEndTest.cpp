@@ -47,6 +47,8 @@ PT=351:00:EF:E:F:Portugal:P
 CO=57:00:EF:0F:F:Colombia:P
 LU=352:00:EF::G:Luxembourg:P
 LI=423:00:EF::F:Liechtenstein:P
+BS=1242:011:EF:1F:G:Bahamas:P
+US=1:011:EF:1F:G:United States:P
 )");
 		writeFile("r7731cnp_57.properties", "OP_DEFAULT=4\nOP_0000=5\nOP_0001=7\n");
 		writeFile("qap_cnp_mask.properties", "Mask_49_1=+C (A) xxx xxxx\n");
@@ -112,6 +114,8 @@ INSTANTIATE_TEST_SUITE_P(Canonical,
 		Case{"InternationalWithoutPlan", Op::Canonical, "Berlin", "0034 91 123 4567", "+34 911234567"},
 		Case{"InternationalWithTrunkPrefix", Op::Canonical, "Berlin", "0039 06 1234 5678", "+39 (0) 0612345678"},
 		Case{"PlusNumberWithoutPlan", Op::Canonical, "Berlin", "+34 91 123 4567", "+34 911234567"},
+		// A calling code written apart is taken whole, though a shorter one begins it.
+		Case{"PlusNumberSeparatedCallingCode", Op::Canonical, "Berlin", "+1242 5550100", "+1242 (1) 5550100"},
 		Case{"PlusNumberUnknownCallingCode", Op::Canonical, "Berlin", "+999 1234567", "+999 1234567"},
 		Case{"ExtensionAfterBarDropped", Op::Canonical, "Berlin", "030 1234567|12", "+49 (30) 123 4567"},
 		Case{"ServiceCodeLosesLayout", Op::Canonical, "Berlin", "#31# 030-1234|9", "#31#0301234"},

@@ -65,6 +65,7 @@ const TripRow NETHERLANDS[] = {
 	{"LocalWithoutTranslation", "6123456", "6123456", nullptr, nullptr, nullptr, Setting::NoTranslate},
 	{"InternationalOneDigitShort", "+31 20 123 456", "+31 (0) 20123456", "020123456", "020123456", "003120123456"},
 	{"LocalBeginningWithOne", "1234567", "1234567"},
+	{"SevenDigitsBeginningWithEightyAreGeographic", "08012345", "+31 (20) 8012345"},
 	{"SecondAreaOfTwoAreaSite", "0101234567", "+31 (10) 1234567", "0101234567", "1234567", "0031101234567",
 		Setting::Sample, {}, {"NL", "20,10", "0"}},
 };

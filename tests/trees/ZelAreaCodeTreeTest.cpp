@@ -137,6 +137,8 @@ TEST(ZelCharsTreeTest, StoresAnyCharacterEvenNul)
 	tree.insert(std::string("1\0", 2));
 	EXPECT_EQ("1", tree.isPresent("1"));
 	EXPECT_TRUE(tree.isAreaCode(std::string("1\0", 2)));
+	tree.insert("1");
+	EXPECT_FALSE(tree.isAreaCode("1"));
 }
 
 // Freeing the merged children too, or not freeing the head, shows in the sanitized run.
