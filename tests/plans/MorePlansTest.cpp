@@ -44,6 +44,7 @@ const PlanRow PLAN_ONLY[] = {
 	{"MxTooShort", MX55, "123456", "123456"},
 	{"AtExtPrefixAndThreeDigits", AT1EXT9, "9234", "+43 (1) 234"},
 	{"AtShortNumberBehindLongExtPrefixIsLocal", {"AT", "1", "99"}, "9923", "+43 (1) 9923"},
+	{"AtNumberAsLongAsTheLongestCode", AT1EXT9, "01234", "+43 (1) 234"},
 };
 
 const std::map<std::string, std::string> CALLING_CODES{
