@@ -51,13 +51,6 @@ protected:
 	}
 };
 
-TEST_F(ZelNumberingConfigTest, SetConfigDirectoryAppendsSlashAndRewritesPaths)
-{
-	ZelNumberingConfig::setConfigDirectory("/tmp/site");
-	EXPECT_EQ("/tmp/site/", ZelNumberingConfig::getConfigDirectory());
-	EXPECT_EQ("/tmp/site/qap_cnp_mask_default.properties", ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE);
-}
-
 TEST_F(ZelNumberingConfigTest, SiteFileHidesItsDefaultTwinEntirely)
 {
 	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");

@@ -7,6 +7,7 @@
 #include "support/RowName.h"
 
 #include "Poco/AutoPtr.h"
+#include "Poco/Format.h"
 
 #include <gtest/gtest.h>
 
@@ -92,6 +93,17 @@ INSTANTIATE_TEST_SUITE_P(PlanFiles,
 		LoadingCase{"ValueWithoutDigitsEndsTheList", "OP_0000 = 456\nOP_0001 = none\nOP_0002 = 5\n", nullptr,
 			"0912345678", {"456"}, {"5"}, ""}),
 	numbering::test::RowName());
+
+TEST_F(ZelDialable57Test, ReadsOperatorPrefixesUpToTheIndex9998)
+{
+	std::string file;
+	for (int i = 0; i <= 9999; ++i)
+		file += Poco::format("OP_%04d=%d\n", i, 100000 + i);
+	writeFile("r7731cnp_57.properties", file);
+	ZelDialable_57 maker;
+	EXPECT_EQ("109998", maker.extractOperatorPrefix("109998"));
+	EXPECT_EQ("", maker.extractOperatorPrefix("109999"));
+}
 
 struct PrefixCase
 {
