@@ -43,6 +43,7 @@ const PlanRow PLAN_ONLY[] = {
 	{"MxNationalNumberBeginningWithOneKeepsCountry", MX55, "011234567890", "+52 1234567890"},
 	{"MxTooShort", MX55, "123456", "123456"},
 	{"MxTenDigitsAtSiteWithoutAreaAreNotLocal", MX, "1234567890", "1234567890"},
+	{"MxEightDigitsWithTrunkDigitAreNotLocal", MX55, "01234567", "+52 234567"},
 	{"AtExtPrefixAndThreeDigits", AT1EXT9, "9234", "+43 (1) 234"},
 	{"AtShortNumberBehindLongExtPrefixIsLocal", {"AT", "1", "99"}, "9923", "+43 (1) 9923"},
 	{"AtNumberAsLongAsTheLongestCode", AT1EXT9, "01234", "+43 (1) 234"},
