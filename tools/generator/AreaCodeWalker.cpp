@@ -14,8 +14,6 @@ namespace generator {
 
 namespace {
 
-const std::size_t LONGEST_NATIONAL_NUMBER = 13;
-
 // Digits that complete a prefix into a full number; several, since plans forbid some subscriber numbers
 // that begin with a given digit.
 const char FILL_DIGITS[] = {'2', '4', '5', '8'};

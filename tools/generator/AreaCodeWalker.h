@@ -12,6 +12,9 @@
 namespace numbering {
 namespace generator {
 
+/// Longest national significant number the walkers complete a prefix to.
+inline constexpr std::size_t LONGEST_NATIONAL_NUMBER = 13;
+
 /// The metadata has no list of area codes, so the walker descends the digit tree of a country's national
 /// numbers: under each prefix it builds a valid fixed-line number, reads its area code, and keeps the code when
 /// the offline geocoder names a place for it (validity alone accepts codes that are not in service in open

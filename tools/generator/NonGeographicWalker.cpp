@@ -2,6 +2,8 @@
 
 #include "NonGeographicWalker.h"
 
+#include "AreaCodeWalker.h"
+
 #include <cstdlib>
 
 using i18n::phonenumbers::PhoneNumber;
@@ -11,8 +13,6 @@ namespace numbering {
 namespace generator {
 
 namespace {
-
-const std::size_t LONGEST_NATIONAL_NUMBER = 13;
 
 // Blocks of this many leading digits are looked into; one digit more would multiply the walk by ten for the
 // few ranges that only a fifth digit tells apart.
