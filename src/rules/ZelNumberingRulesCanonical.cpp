@@ -4,6 +4,7 @@
 
 #include "plans/ZelCNPManager.h"
 #include "rules/ZelRulesSupport.h"
+#include "support/Text.h"
 
 #include "Poco/String.h"
 
@@ -116,7 +117,7 @@ private:
 			}
 			return;
 		}
-		std::string digits = ZelRulesSupport::digitsOf(m_Validated, countryNumber.size() + 1, m_Validated.size());
+		std::string digits = detail::digitsOf(m_Validated, countryNumber.size() + 1, m_Validated.size());
 		useTemporaryItem(m_CountryCode);
 		ZelCountryRuleItem* rule = ZelRulesSupport::requireCountryRule(m_Config, m_CountryCode);
 		ZelDialable* dialable = ZelRulesSupport::requireDialable(countryNumber);
@@ -161,7 +162,7 @@ private:
 		for (std::string::size_type i = 0; i < end; ++i)
 		{
 			const char c = m_Validated[i];
-			if (ZelRulesSupport::isDigit(c))
+			if (detail::isDigit(c))
 			{
 				m_Working += c;
 			}

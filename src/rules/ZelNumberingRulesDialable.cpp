@@ -3,6 +3,7 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "rules/ZelRulesSupport.h"
+#include "support/Text.h"
 
 #include "Poco/String.h"
 
@@ -22,13 +23,13 @@ public:
 	{
 		const std::string::size_type bound = ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH;
 		const std::string::size_type end = std::min(canonical.size(), bound);
-		std::string::size_type pos = ZelRulesSupport::skipNonDigits(canonical, 1, end);
+		std::string::size_type pos = detail::skipNonDigits(canonical, 1, end);
 		pos = collectRun(canonical, pos, end, country);
 		if (canonical.find('(') != std::string::npos && canonical.find(')') != std::string::npos)
 		{
 			pos = collectRun(canonical, pos, end, area);
 		}
-		subscriber = ZelRulesSupport::digitsOf(canonical, pos, end);
+		subscriber = detail::digitsOf(canonical, pos, end);
 		// A number as long as the bound or longer was cut off, and a cut number must not be dialled.
 		complete = canonical.size() < bound;
 	}
@@ -44,9 +45,9 @@ private:
 	static std::string::size_type collectRun(
 		const std::string& text, std::string::size_type pos, std::string::size_type end, std::string& digits)
 	{
-		const std::string::size_type runEnd = ZelRulesSupport::skipDigits(text, pos, end);
+		const std::string::size_type runEnd = detail::skipDigits(text, pos, end);
 		digits.assign(text, pos, runEnd - pos);
-		return ZelRulesSupport::skipNonDigits(text, runEnd, end);
+		return detail::skipNonDigits(text, runEnd, end);
 	}
 };
 

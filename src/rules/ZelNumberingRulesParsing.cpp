@@ -3,6 +3,7 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "rules/ZelRulesSupport.h"
+#include "support/Text.h"
 
 #include "Poco/String.h"
 
@@ -19,10 +20,10 @@ struct Runs
 {
 	explicit Runs(const std::string& text):
 		end(text.size()),
-		countryEnd(ZelRulesSupport::skipDigits(text, 1, end)),
-		areaBegin(ZelRulesSupport::skipNonDigits(text, countryEnd, end)),
-		areaEnd(ZelRulesSupport::skipDigits(text, areaBegin, end)),
-		restBegin(ZelRulesSupport::skipNonDigits(text, areaEnd, end))
+		countryEnd(detail::skipDigits(text, 1, end)),
+		areaBegin(detail::skipNonDigits(text, countryEnd, end)),
+		areaEnd(detail::skipDigits(text, areaBegin, end)),
+		restBegin(detail::skipNonDigits(text, areaEnd, end))
 	{
 	}
 
@@ -111,7 +112,7 @@ std::string ZelNumberingRules::extractCountryNumberFromCanonicalNumber(std::stri
 	{
 		return "";
 	}
-	const std::string::size_type end = ZelRulesSupport::skipDigits(canonicalNumber, 1, canonicalNumber.size());
+	const std::string::size_type end = detail::skipDigits(canonicalNumber, 1, canonicalNumber.size());
 	// "+" and digits alone have no recognisable country number: the configuration must split them.
 	if (end == canonicalNumber.size())
 	{
@@ -151,7 +152,7 @@ std::string ZelNumberingRules::extractExtensionFromCanonicalNumber(std::string c
 		return "";
 	}
 	// Digits after a "|" belong to the result too.
-	return ZelRulesSupport::digitsOf(canonicalNumber, separator + 1, canonicalNumber.size());
+	return detail::digitsOf(canonicalNumber, separator + 1, canonicalNumber.size());
 }
 
 ZelClid* ZelNumberingRules::makeClid(ZelDialRulesItem* item, std::string number)

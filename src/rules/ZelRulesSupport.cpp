@@ -37,42 +37,6 @@ bool ZelRulesSupport::isCanonical(const std::string& number)
 	return !number.empty() && number[0] == '+';
 }
 
-std::string::size_type ZelRulesSupport::skipDigits(
-	const std::string& text, std::string::size_type from, std::string::size_type end)
-{
-	while (from < end && isDigit(text[from]))
-	{
-		++from;
-	}
-	return from;
-}
-
-std::string::size_type ZelRulesSupport::skipNonDigits(
-	const std::string& text, std::string::size_type from, std::string::size_type end)
-{
-	while (from < end && !isDigit(text[from]))
-	{
-		++from;
-	}
-	return from;
-}
-
-std::string ZelRulesSupport::digitsOf(const std::string& text, std::string::size_type from, std::string::size_type end)
-{
-	// Sized for the whole range, filled from the front, and cut to the digits found: one buffer, no growth.
-	std::string digits(end > from ? end - from : 0, '0');
-	std::string::size_type kept = 0;
-	for (; from < end; ++from)
-	{
-		if (isDigit(text[from]))
-		{
-			digits[kept++] = text[from];
-		}
-	}
-	digits.resize(kept);
-	return digits;
-}
-
 bool ZelRulesSupport::isMarked(const std::string& number)
 {
 	for (std::string::size_type star = number.find('*'); star != std::string::npos; star = number.find('*', star + 1))

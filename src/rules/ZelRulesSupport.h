@@ -21,23 +21,6 @@ public:
 	/// True when number begins with "+": the only test the library makes for a canonical number.
 	static bool isCanonical(const std::string& number);
 
-	/// True for the decimal digits 0 to 9 only, whatever the signedness of char.
-	static bool isDigit(char c)
-	{
-		return c >= '0' && c <= '9';
-	}
-
-	/// Index of the first character in [from, end) that is not a digit, or end.
-	static std::string::size_type skipDigits(
-		const std::string& text, std::string::size_type from, std::string::size_type end);
-
-	/// Index of the first digit in [from, end), or end.
-	static std::string::size_type skipNonDigits(
-		const std::string& text, std::string::size_type from, std::string::size_type end);
-
-	/// The decimal digits of text in [from, end), every other character dropped.
-	static std::string digitsOf(const std::string& text, std::string::size_type from, std::string::size_type end);
-
 	/// True when number holds the marker "***", which the conversions hand back untouched.
 	static bool isMarked(const std::string& number);
 
