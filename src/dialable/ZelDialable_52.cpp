@@ -4,6 +4,8 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
+#include "support/MexicanPrefixes.h"
+
 #include <typeinfo>
 
 namespace numbering {
@@ -13,9 +15,9 @@ const std::string LONG_DIST_LABEL = "52-MX makeLongDistDialableNumber() AreaNatP
 
 } // namespace
 
-const std::string ZelDialable_52::PREFIX_MOBILE = "1";
-const std::string ZelDialable_52::PREFIX_MOBILE_LOCAL = "044";
-const std::string ZelDialable_52::PREFIX_MOBILE_DISTANT = "045";
+const std::string ZelDialable_52::PREFIX_MOBILE = detail::MEXICAN_PREFIX_MOBILE;
+const std::string ZelDialable_52::PREFIX_MOBILE_LOCAL = detail::MEXICAN_PREFIX_MOBILE_LOCAL;
+const std::string ZelDialable_52::PREFIX_MOBILE_DISTANT = detail::MEXICAN_PREFIX_MOBILE_DISTANT;
 
 Logger* ZelDialable_52::logger = Logger::getLogger(typeid(ZelDialable_52).name());
 

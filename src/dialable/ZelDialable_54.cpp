@@ -40,7 +40,7 @@ std::string ZelDialable_54::MakeLocalOrLongDistDialableNumber(
 	result += dest;
 	// A plan of another class, or none, cannot split the number either.
 	ZelCNP_54* plan = dynamic_cast<ZelCNP_54*>(ZelCNPManager::getInstance()->getCNP(ARGENTINA));
-	const std::unique_ptr<ZelStrippedNbr> stripped = plan != nullptr ? plan->StripNbr(result, site) : nullptr;
+	const std::unique_ptr<StrippedNumber> stripped = plan != nullptr ? plan->StripNbr(result, site) : nullptr;
 	if (!stripped)
 	{
 		if (Logger::m_Traces)

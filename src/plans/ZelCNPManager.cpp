@@ -5,6 +5,7 @@
 #include "numbering/ZelNumberingConfig.h"
 
 #include "plans/ZelCNPFactory.h"
+#include "support/Trace.h"
 
 #include "Poco/String.h"
 
@@ -18,7 +19,7 @@ Logger* ZelCNPManager::logger = Logger::getLogger(typeid(ZelCNPManager).name());
 
 ZelCNPManager* ZelCNPManager::getInstance()
 {
-	if (Logger::m_Traces) logger->debug("getInstance()");
+	NUMBERING_TRACE(logger, "getInstance()");
 	if (instance == nullptr) instance = new ZelCNPManager();
 	return instance;
 }
@@ -31,14 +32,14 @@ void ZelCNPManager::resetInstance()
 
 ZelCNPManager::ZelCNPManager()
 {
-	if (Logger::m_Traces) logger->debug("ZelCNPManager()");
+	NUMBERING_TRACE(logger, "ZelCNPManager()");
 }
 
 ZelCNPManager::~ZelCNPManager() = default;
 
 ZelCNP* ZelCNPManager::getCNP(std::string countryKey)
 {
-	if (Logger::m_Traces) logger->debug("getCNP('" + countryKey + "')");
+	NUMBERING_TRACE(logger, "getCNP('" + countryKey + "')");
 	Poco::FastMutex::ScopedLock lock(m_Mutex);
 	auto cached = m_Cache.find(countryKey);
 	if (cached != m_Cache.end()) return cached->second.get();
@@ -48,7 +49,7 @@ ZelCNP* ZelCNPManager::getCNP(std::string countryKey)
 
 ZelCNP* ZelCNPManager::loadCNPClass(std::string countryKey)
 {
-	if (Logger::m_Traces) logger->debug("loadCNPClass('" + countryKey + "')");
+	NUMBERING_TRACE(logger, "loadCNPClass('" + countryKey + "')");
 	if (countryKey.size() >= 2)
 	{
 		Poco::toUpperInPlace(countryKey);

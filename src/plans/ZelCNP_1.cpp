@@ -2,7 +2,8 @@
 
 #include "plans/ZelCNP_1.h"
 
-#include "plans/ZelCNPTrace.h"
+#include "support/Plans.h"
+#include "support/Trace.h"
 
 #include <typeinfo>
 
@@ -39,23 +40,20 @@ Logger* ZelCNP_1::logger = Logger::getLogger(typeid(ZelCNP_1).name());
 
 ZelCNP_1::ZelCNP_1()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelCNP_1()");
-	}
+	NUMBERING_TRACE(logger, "ZelCNP_1()");
 }
 
 std::string ZelCNP_1::qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules)
 {
-	ZelCNPTrace::logCall(logger, number, rules);
-	const std::size_t n = number.size();
-	if (n == LOCAL_LENGTH) return localCanonical(number, number, rules);
-	if (n == NATIONAL_LENGTH) return nationalCanonical(number, number);
-	if ((n == LOCAL_LENGTH + 1 || n == NATIONAL_LENGTH + 1) && isReservedDigit(number.at(0)))
+	NUMBERING_TRACE(logger, detail::canonicalCallText(number, rules));
+	const std::size_t length = number.size();
+	if (length == LOCAL_LENGTH) return localCanonical(number, number, rules);
+	if (length == NATIONAL_LENGTH) return nationalCanonical(number, number);
+	if ((length == LOCAL_LENGTH + 1 || length == NATIONAL_LENGTH + 1) && isReservedDigit(number.at(0)))
 	{
 		// One leading "0" or "1" in front of a local or national number is a trunk digit.
 		const std::string work = number.substr(1);
-		return n == LOCAL_LENGTH + 1 ? localCanonical(number, work, rules) : nationalCanonical(number, work);
+		return length == LOCAL_LENGTH + 1 ? localCanonical(number, work, rules) : nationalCanonical(number, work);
 	}
 	return number;
 }

@@ -6,9 +6,7 @@
 
 #include "numbering/Logger.h"
 
-#include "plans/ZelTrunkPrefixPlan.h"
-
-#include <string>
+#include "plans/TrunkPrefixPlan.h"
 
 namespace numbering {
 
@@ -16,17 +14,10 @@ namespace numbering {
 /// and numbers with a code missing from the table, are written "+31 (0) " + the digits after the trunk prefix.
 /// "0201234567" gives "+31 (20) 1234567", "0612345678" "+31 (0) 612345678", "6123456" at a site with area
 /// code 20 "+31 (20) 6123456".
-class ZelCNP_31: public ZelTrunkPrefixPlan
+class ZelCNP_31: public TrunkPrefixPlan
 {
 public:
 	ZelCNP_31();
-
-protected:
-	bool isGeographic(const std::string& rest, const std::string& sub) override;
-
-	bool acceptsZeroForm(const std::string& rest) override;
-
-	bool isLocal(const std::string& siteArea, const std::string& w) override;
 
 private:
 	static Logger* logger;

@@ -2,13 +2,15 @@
 
 #include "plans/ZelCNP_33.h"
 
+#include "support/Trace.h"
+
 #include <typeinfo>
 
 namespace numbering {
 
 namespace {
 
-const ZelClosedNationalPlan::Layout FRANCE{"FR", 10, "+33 (", 0, 1};
+const ClosedNationalPlan::Layout FRANCE{"FR", 10, "+33 (", 0, 1};
 
 } // namespace
 
@@ -17,12 +19,9 @@ Logger* ZelCNP_33::logger = Logger::getLogger(typeid(ZelCNP_33).name());
 ZelNumberingConfig* ZelCNP_33::config = nullptr;
 
 ZelCNP_33::ZelCNP_33():
-	ZelClosedNationalPlan(FRANCE)
+	ClosedNationalPlan(FRANCE)
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelCNP_33()");
-	}
+	NUMBERING_TRACE(logger, "ZelCNP_33()");
 	// Taken afresh by every plan: the configuration may have been reloaded since the previous plan was built.
 	config = ZelNumberingConfig::getInstance();
 }

@@ -8,14 +8,14 @@
 #include "numbering/ZelDialRulesItem.h"
 #include "numbering/ZelNumberingConfig.h"
 
-#include "plans/ZelClosedNationalPlan.h"
+#include "plans/ClosedNationalPlan.h"
 
 #include <string>
 
 namespace numbering {
 
 /// The closed national plan of "FR": the trunk prefix stays between the parentheses.
-class ZelCNP_33: public ZelClosedNationalPlan
+class ZelCNP_33: public ClosedNationalPlan
 {
 public:
 	ZelCNP_33();

@@ -5,8 +5,9 @@
 #define Numbering_ZelCNP_353_INCLUDED
 
 #include "numbering/Logger.h"
+#include "numbering/ZelDialRulesItem.h"
 
-#include "plans/ZelTrunkPrefixPlan.h"
+#include "plans/TrunkPrefixPlan.h"
 
 #include <string>
 
@@ -17,21 +18,22 @@ namespace numbering {
 /// from abroad) it is written "+353 (1800) 123456". Every result is traced.
 /// "012345678" gives "+353 (1) 2345678", "1800123456" "1800123456", "01800123456" dialled without external
 /// prefix 0 "+353 (1800) 123456".
-class ZelCNP_353: public ZelTrunkPrefixPlan
+class ZelCNP_353: public TrunkPrefixPlan
 {
 public:
 	ZelCNP_353();
 
-	/// The table plan's reading (ZelTrunkPrefixPlan), followed by the debug line
+	/// The table plan's reading (TrunkPrefixPlan), followed by the debug line
 	/// "QapCountryMakeCanonicalNumber returns '" + result + "'".
 	std::string qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules) override;
 
 protected:
-	bool readForm(const std::string& w, std::string& result) override;
+	/// A 15xx or 18xx number of 10 digits keeps its home form.
+	bool readServiceNumber(const std::string& candidate, std::string& result) override;
 
-	PreRule preRule(const std::string& rest, const Pass& pass, std::string& result) override;
-
-	bool isLocal(const std::string& siteArea, const std::string& w) override;
+	/// A 15xx or 18xx number in national form is written with its first 4 digits as area, unless it was dialled
+	/// at home behind the external prefix.
+	Verdict decideBeforeTable(const std::string& digits, const Pass& pass, std::string& result) override;
 
 private:
 	static Logger* logger;

@@ -2,7 +2,8 @@
 
 #include "plans/ZelCNP_41.h"
 
-#include "plans/ZelCNPTrace.h"
+#include "support/Plans.h"
+#include "support/Trace.h"
 
 #include "Poco/String.h"
 
@@ -30,15 +31,12 @@ Logger* ZelCNP_41::logger = Logger::getLogger(typeid(ZelCNP_41).name());
 
 ZelCNP_41::ZelCNP_41()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelCNP_41()");
-	}
+	NUMBERING_TRACE(logger, "ZelCNP_41()");
 }
 
 std::string ZelCNP_41::qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules)
 {
-	ZelCNPTrace::logCall(logger, number, rules);
+	NUMBERING_TRACE(logger, detail::canonicalCallText(number, rules));
 	const std::string ext = rules->getExtPrefix();
 	std::string work = number;
 	if (work.size() < ZURICH_LENGTH) return number;

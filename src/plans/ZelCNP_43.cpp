@@ -6,14 +6,17 @@
 
 namespace numbering {
 
+namespace {
+
+const TrunkPrefixPlan::Country AUSTRIA{
+	"43", "ZelCNP_43", "No specific configuration file for Austria", TrunkPrefixPlan::NO_TABLE_TEXT};
+
+} // namespace
+
 Logger* ZelCNP_43::logger = Logger::getLogger(typeid(ZelCNP_43).name());
 
 ZelCNP_43::ZelCNP_43():
-	ZelTrunkPrefixPlan(logger,
-		"43",
-		"ZelCNP_43",
-		"No specific configuration file for Austria",
-		"No specific dialing rules configuration file")
+	TrunkPrefixPlan(logger, AUSTRIA)
 {
 }
 

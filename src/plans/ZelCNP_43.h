@@ -6,9 +6,7 @@
 
 #include "numbering/Logger.h"
 
-#include "plans/ZelTrunkPrefixPlan.h"
-
-#include <string>
+#include "plans/TrunkPrefixPlan.h"
 
 namespace numbering {
 
@@ -16,7 +14,7 @@ namespace numbering {
 /// mobile and service codes included ("0664 1234567" gives "+43 (664) 1234567"). A number whose code is
 /// missing keeps its country as "+43 (0) " + the digits after the trunk prefix.
 /// "0158800" gives "+43 (1) 58800", "58800" at a site with area code 1 "+43 (1) 58800".
-class ZelCNP_43: public ZelTrunkPrefixPlan
+class ZelCNP_43: public TrunkPrefixPlan
 {
 public:
 	ZelCNP_43();

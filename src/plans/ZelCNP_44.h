@@ -6,9 +6,7 @@
 
 #include "numbering/Logger.h"
 
-#include "plans/ZelTrunkPrefixPlan.h"
-
-#include <string>
+#include "plans/TrunkPrefixPlan.h"
 
 namespace numbering {
 
@@ -17,17 +15,10 @@ namespace numbering {
 /// are written "+44 (0) " + the digits after the trunk prefix.
 /// "02079460123" gives "+44 (20) 79460123", "07911123456" "+44 (0) 7911123456", "79460123" at a site with
 /// area code 20 "+44 (20) 79460123".
-class ZelCNP_44: public ZelTrunkPrefixPlan
+class ZelCNP_44: public TrunkPrefixPlan
 {
 public:
 	ZelCNP_44();
-
-protected:
-	bool isGeographic(const std::string& rest, const std::string& sub) override;
-
-	bool acceptsZeroForm(const std::string& rest) override;
-
-	bool isLocal(const std::string& siteArea, const std::string& w) override;
 
 private:
 	static Logger* logger;

@@ -5,40 +5,36 @@
 #define Numbering_ZelCNP_49_INCLUDED
 
 #include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
 
-#include "plans/ZelAreaCodeTablePlan.h"
+#include "plans/TrunkPrefixPlan.h"
 
 #include <string>
 
 namespace numbering {
 
-/// Germany (calling code 49). A missing table leaves every national number with the site's area code.
-class ZelCNP_49: public ZelAreaCodeTablePlan
+/// Germany (calling code 49), an open plan: "0301234567" gives "+49 (30) 1234567". Besides the trunk-prefix
+/// plans' rules, with translation on, every number that is not read as national is local, whatever it begins
+/// with; a number without the external prefix is read as local whole. A missing table leaves every national
+/// number with the site's area code, and a number no rule reads is returned unchanged.
+class ZelCNP_49: public TrunkPrefixPlan
 {
 public:
 	ZelCNP_49();
 
-	~ZelCNP_49() override;
+protected:
+	/// The site's area code stands for a code the table does not know.
+	bool readUnknownCode(const std::string& digits, const std::string& siteArea, std::string& result) override;
 
-	/// The canonical number of a national number ("0301234567" gives "+49 (30) 1234567"), of one behind the
-	/// site's external prefix, or, with translation on, of a local number behind the external prefix or of
-	/// any number not carrying it, which takes the site's area code. Anything else, and any number shorter
-	/// than 3, is returned unchanged. Throws Poco::NullPointerException when the plan has no tree.
-	std::string qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules) override;
+	/// Any number may be local.
+	bool isLocal(const std::string& siteArea, const std::string& candidate) override;
 
-	/// Self test: prints "Dialing rules : " and four labelled conversions to standard output. Returns 0; args
-	/// is ignored.
-	static int main(std::string* args);
+	/// An empty external prefix stands in front of every number of 3 to 16 characters.
+	bool isBehindExtPrefix(const std::string& number, const std::string& ext) override;
+
+	/// Never: a number no rule reads keeps its form.
+	bool keepCountry(const std::string& number, const std::string& stripped, std::string& result) override;
 
 private:
-	/// The canonical number of a national number ("0" + area code + subscriber), or "" when it is not one.
-	std::string makeNational(const std::string& working, ZelDialRulesItem* rules);
-
-	/// The canonical number of a local number with the site's area code, or fallback when translation is off
-	/// or the site has no area code.
-	std::string makeLocal(const std::string& working, ZelDialRulesItem* rules, const std::string& fallback) const;
-
 	static Logger* logger;
 };
 

@@ -4,11 +4,12 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
-#include "dialable/ZelDialable_52.h"
-#include "plans/ZelCNPTrace.h"
-#include "plans/ZelPlanPasses.h"
+#include "support/MexicanPrefixes.h"
+#include "support/Plans.h"
+#include "support/Trace.h"
 
 #include <algorithm>
+#include <string_view>
 #include <typeinfo>
 
 namespace numbering {
@@ -23,8 +24,8 @@ const std::string NO_PREFIX;
 /// A national number behind the prefix first + second; mobile when the prefix marks a mobile number.
 struct NationalForm
 {
-	const std::string& first;
-	const std::string& second;
+	std::string_view first;
+	std::string_view second;
 	bool mobile;
 };
 
@@ -37,60 +38,55 @@ Logger* ZelCNP_52::logger = Logger::getLogger(typeid(ZelCNP_52).name());
 
 ZelCNP_52::ZelCNP_52()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelCNP_52()");
-	}
+	NUMBERING_TRACE(logger, "ZelCNP_52()");
 }
 
 std::string ZelCNP_52::qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules)
 {
-	ZelCNPTrace::logCall(logger, number, rules);
+	NUMBERING_TRACE(logger, detail::canonicalCallText(number, rules));
 	if (number.size() < MIN_LENGTH) return number;
 	std::string result;
 	if (readNational(number, result)) return result;
-	std::string stripped;
-	const bool isStripped = ZelPlanPasses::stripExtPrefix(number, rules->getExtPrefix(), stripped);
+	const std::string ext = rules->getExtPrefix();
+	const bool isStripped = !ext.empty() && detail::followsExtPrefix(number, ext);
+	const std::string stripped = isStripped ? number.substr(ext.size()) : std::string();
 	if (isStripped && readNational(stripped, result)) return result;
 	if (readLocal(isStripped ? stripped : number, rules->getAreaCode(), result)) return result;
-	result = ZelPlanPasses::finalForm(COUNTRY_HEAD, PREFIX_NATIONAL, number, stripped);
+	result = detail::keepCountryForm(COUNTRY_HEAD, PREFIX_NATIONAL, number, stripped);
 	return result.empty() ? number : result;
 }
 
-bool ZelCNP_52::readNational(const std::string& w, std::string& result)
+bool ZelCNP_52::readNational(const std::string& candidate, std::string& result)
 {
 	// Ten digits alone do not tell a mobile number from a fixed one: they are taken as fixed.
-	const NationalForm forms[] = {{ZelDialable_52::PREFIX_MOBILE_LOCAL, NO_PREFIX, true},
-		{ZelDialable_52::PREFIX_MOBILE_DISTANT, NO_PREFIX, true},
-		{PREFIX_NATIONAL, ZelDialable_52::PREFIX_MOBILE, true}, {PREFIX_NATIONAL, NO_PREFIX, false},
-		{ZelDialable_52::PREFIX_MOBILE, NO_PREFIX, true}, {NO_PREFIX, NO_PREFIX, false}};
-	const NationalForm* form = std::find_if(std::begin(forms), std::end(forms), [&w](const NationalForm& f) {
-		return w.size() == NATIONAL_NUMBER_LENGTH + f.first.size() + f.second.size() &&
-			   ZelPlanPasses::startsWith(w, f.first) && w.compare(f.first.size(), f.second.size(), f.second) == 0;
+	const NationalForm forms[] = {{detail::MEXICAN_PREFIX_MOBILE_LOCAL, NO_PREFIX, true},
+		{detail::MEXICAN_PREFIX_MOBILE_DISTANT, NO_PREFIX, true},
+		{PREFIX_NATIONAL, detail::MEXICAN_PREFIX_MOBILE, true}, {PREFIX_NATIONAL, NO_PREFIX, false},
+		{detail::MEXICAN_PREFIX_MOBILE, NO_PREFIX, true}, {NO_PREFIX, NO_PREFIX, false}};
+	const NationalForm* form = std::find_if(std::begin(forms), std::end(forms), [&candidate](const NationalForm& f) {
+		return candidate.size() == NATIONAL_NUMBER_LENGTH + f.first.size() + f.second.size() &&
+			   candidate.compare(0, f.first.size(), f.first) == 0 &&
+			   candidate.compare(f.first.size(), f.second.size(), f.second) == 0;
 	});
 	if (form == std::end(forms)) return false;
-	const std::string nsn = w.substr(form->first.size() + form->second.size());
+	const std::string nsn = candidate.substr(form->first.size() + form->second.size());
 	if (nsn[0] < '2' || nsn[0] > '9') return false;
 	const bool twoDigits = std::find(AREA_CODES_2.begin(), AREA_CODES_2.end(), nsn.substr(0, 2)) != AREA_CODES_2.end();
 	const std::string::size_type areaLength = twoDigits ? 2 : 3;
-	if (Logger::m_Traces)
-	{
-		logger->debug((form->mobile ? "Mobile number detected : '" : "Fixed number detected : '") + w + "'");
-	}
+	NUMBERING_TRACE(
+		logger, (form->mobile ? "Mobile number detected : '" : "Fixed number detected : '") + candidate + "'");
 	result = COUNTRY_HEAD + "(" + (form->mobile ? mobileMarker() : NO_PREFIX) + nsn.substr(0, areaLength) + ") " +
 			 nsn.substr(areaLength);
 	return true;
 }
 
-bool ZelCNP_52::readLocal(const std::string& w, const std::string& siteArea, std::string& result)
+bool ZelCNP_52::readLocal(const std::string& candidate, const std::string& siteArea, std::string& result)
 {
-	if (siteArea.empty() || w.empty() || w[0] == '0' || w.size() + siteArea.size() != NATIONAL_NUMBER_LENGTH)
+	if (siteArea.empty() || candidate.empty() || candidate[0] == '0' ||
+		candidate.size() + siteArea.size() != NATIONAL_NUMBER_LENGTH)
 		return false;
-	if (Logger::m_Traces)
-	{
-		logger->debug("Local number detected : '" + w + "'");
-	}
-	result = COUNTRY_HEAD + "(" + siteArea + ") " + w;
+	NUMBERING_TRACE(logger, "Local number detected : '" + candidate + "'");
+	result = COUNTRY_HEAD + "(" + siteArea + ") " + candidate;
 	return true;
 }
 
@@ -99,7 +95,7 @@ std::string ZelCNP_52::mobileMarker()
 	// A site dialling the ten digits has no long-distance prefix; ZelDialable_52 would dial the marker as 044
 	// or 045, so mobile numbers are then written like fixed ones.
 	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule(COUNTRY_CODE);
-	return rule != nullptr && rule->getLongDistPrefix().empty() ? "" : ZelDialable_52::PREFIX_MOBILE;
+	return rule != nullptr && rule->getLongDistPrefix().empty() ? "" : detail::MEXICAN_PREFIX_MOBILE;
 }
 
 } // namespace numbering

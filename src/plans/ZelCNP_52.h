@@ -39,9 +39,9 @@ public:
 	static const int NATIONAL_NUMBER_LENGTH = 10;
 
 private:
-	bool readNational(const std::string& w, std::string& result);
+	bool readNational(const std::string& candidate, std::string& result);
 
-	bool readLocal(const std::string& w, const std::string& siteArea, std::string& result);
+	bool readLocal(const std::string& candidate, const std::string& siteArea, std::string& result);
 
 	static std::string mobileMarker();
 

@@ -2,7 +2,10 @@
 
 #include "plans/ZelCNP_54.h"
 
-#include "plans/ZelPlanPasses.h"
+#include "support/Plans.h"
+#include "support/Trace.h"
+
+#include "Poco/String.h"
 
 #include <typeinfo>
 
@@ -12,7 +15,9 @@ namespace {
 
 /// Digits of a mobile number with its "15": area code, "15", subscriber number.
 const std::string::size_type MOBILE_NUMBER_LENGTH = 12;
-const std::string::size_type MIN_DIGITS = 3;
+
+const TrunkPrefixPlan::Country ARGENTINA{
+	"54", "ZelCNP_54", "No specific configuration file for Argentina", TrunkPrefixPlan::NO_TABLE_TEXT};
 
 bool hasLength(const std::string& s, const std::string& area, std::string::size_type length)
 {
@@ -28,26 +33,19 @@ const std::string ZelCNP_54::PREFIX_MOBILE_INTERNATIONAL = "9";
 Logger* ZelCNP_54::logger = Logger::getLogger(typeid(ZelCNP_54).name());
 
 ZelCNP_54::ZelCNP_54():
-	ZelTrunkPrefixPlan(logger,
-		"54",
-		"ZelCNP_54",
-		"No specific configuration file for Argentina",
-		"No specific dialing rules configuration file")
+	TrunkPrefixPlan(logger, ARGENTINA)
 {
 }
 
-std::unique_ptr<ZelStrippedNbr> ZelCNP_54::StripNbr(std::string full, ZelDialRulesItem* site)
+std::unique_ptr<StrippedNumber> ZelCNP_54::StripNbr(std::string full, ZelDialRulesItem* site)
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("stripNbr('" + full + "')");
-	}
-	if (full.size() < MIN_DIGITS) return returnNull();
+	NUMBERING_TRACE(logger, "stripNbr('" + full + "')");
+	if (full.size() < detail::MIN_DIGITS) return returnNull();
 	const std::string siteArea = site != nullptr ? site->getAreaCode() : std::string();
-	if (!siteArea.empty() && !ZelPlanPasses::startsWith(full, PREFIX_NATIONAL) &&
-		!ZelPlanPasses::startsWith(full, PREFIX_MOBILE_INTERNATIONAL))
+	if (!siteArea.empty() && !Poco::startsWith(full, PREFIX_NATIONAL) &&
+		!Poco::startsWith(full, PREFIX_MOBILE_INTERNATIONAL))
 	{
-		std::unique_ptr<ZelStrippedNbr> local = stripLocal(full, siteArea);
+		std::unique_ptr<StrippedNumber> local = stripLocal(full, siteArea);
 		if (local) return returnRecord(std::move(local));
 	}
 	return stripNational(std::move(full));
@@ -55,100 +53,72 @@ std::unique_ptr<ZelStrippedNbr> ZelCNP_54::StripNbr(std::string full, ZelDialRul
 
 bool ZelCNP_54::readPass(const Pass& pass, std::string& result)
 {
-	if (!ZelPlanPasses::startsWith(pass.w, PREFIX_NATIONAL) && !(pass.second && m_Translate)) return false;
+	if (!Poco::startsWith(pass.candidate, PREFIX_NATIONAL) && !(pass.mayBeLocal && translates())) return false;
 	// The plan's own StripNbr, never through the plan cache, whose lock is held while this plan is built.
-	const std::unique_ptr<ZelStrippedNbr> stripped = StripNbr(pass.w, pass.rules);
+	const std::unique_ptr<StrippedNumber> stripped = StripNbr(pass.candidate, pass.site);
 	if (!stripped) return false;
 	result = areaForm(
 		(stripped->isMobile() ? PREFIX_MOBILE_INTERNATIONAL : "") + stripped->getAreaCode(), stripped->getNumber());
 	return true;
 }
 
-std::unique_ptr<ZelStrippedNbr> ZelCNP_54::stripLocal(const std::string& n, const std::string& siteArea)
+std::unique_ptr<StrippedNumber> ZelCNP_54::stripLocal(const std::string& digits, const std::string& siteArea)
 {
-	if (ZelPlanPasses::startsWith(n, PREFIX_MOBILE_NATIONAL) && hasLength(n, siteArea, MOBILE_NUMBER_LENGTH))
+	if (Poco::startsWith(digits, PREFIX_MOBILE_NATIONAL) && hasLength(digits, siteArea, MOBILE_NUMBER_LENGTH))
 	{
-		if (Logger::m_Traces)
-		{
-			logger->debug("number starts with local mobile prefix:" + n);
-		}
-		return std::make_unique<ZelStrippedNbr>(siteArea, n.substr(PREFIX_MOBILE_NATIONAL.size()), true);
+		NUMBERING_TRACE(logger, "number starts with local mobile prefix:" + digits);
+		return std::make_unique<StrippedNumber>(siteArea, digits.substr(PREFIX_MOBILE_NATIONAL.size()), true);
 	}
-	if (hasLength(n, siteArea, NATIONAL_NUMBER_LENGTH) && n[0] != '1')
+	if (hasLength(digits, siteArea, NATIONAL_NUMBER_LENGTH) && digits[0] != '1')
 	{
-		if (Logger::m_Traces)
-		{
-			logger->debug("Only local number");
-		}
-		return std::make_unique<ZelStrippedNbr>(siteArea, n, false);
+		NUMBERING_TRACE(logger, "Only local number");
+		return std::make_unique<StrippedNumber>(siteArea, digits, false);
 	}
 	return nullptr;
 }
 
-std::unique_ptr<ZelStrippedNbr> ZelCNP_54::stripNational(std::string n)
+std::unique_ptr<StrippedNumber> ZelCNP_54::stripNational(std::string digits)
 {
-	bool nine = false;
-	if (ZelPlanPasses::startsWith(n, PREFIX_NATIONAL))
+	if (Poco::startsWith(digits, PREFIX_NATIONAL))
 	{
-		if (Logger::m_Traces)
-		{
-			logger->debug("number starts with national prefix:" + n);
-		}
-		n.erase(0, PREFIX_NATIONAL.size());
+		NUMBERING_TRACE(logger, "number starts with national prefix:" + digits);
+		digits.erase(0, PREFIX_NATIONAL.size());
 	}
-	if (ZelPlanPasses::startsWith(n, PREFIX_MOBILE_INTERNATIONAL))
+	const bool mobileFromAbroad = Poco::startsWith(digits, PREFIX_MOBILE_INTERNATIONAL);
+	if (mobileFromAbroad)
 	{
-		if (Logger::m_Traces)
-		{
-			logger->debug("Mobile international prefix is found:" + n);
-		}
-		n.erase(0, PREFIX_MOBILE_INTERNATIONAL.size());
-		nine = true;
+		NUMBERING_TRACE(logger, "Mobile international prefix is found:" + digits);
+		digits.erase(0, PREFIX_MOBILE_INTERNATIONAL.size());
 	}
-	// AutoPtr's operator-> throws Poco::NullPointerException for a plan without a tree.
-	const std::string area = m_AreaCodeTree->extractAreaCode(n);
+	const std::string area = findAreaCode(digits);
 	if (area.empty())
 	{
-		if (nine && Logger::m_Traces)
-		{
-			logger->debug("No area code found but prefix mobile international found before: bad format");
-		}
+		if (mobileFromAbroad)
+			NUMBERING_TRACE(logger, "No area code found but prefix mobile international found before: bad format");
 		return returnNull();
 	}
-	if (Logger::m_Traces)
+	NUMBERING_TRACE(logger, "Area code is found:" + area);
+	bool mobile = mobileFromAbroad;
+	std::string subscriber = digits.substr(area.size());
+	if (Poco::startsWith(subscriber, PREFIX_MOBILE_NATIONAL) && hasLength(subscriber, area, MOBILE_NUMBER_LENGTH))
 	{
-		logger->debug("Area code is found:" + area);
-	}
-	bool mobile = nine;
-	std::string rest = n.substr(area.size());
-	if (ZelPlanPasses::startsWith(rest, PREFIX_MOBILE_NATIONAL) && hasLength(rest, area, MOBILE_NUMBER_LENGTH))
-	{
-		if (Logger::m_Traces)
-		{
-			logger->debug("Mobile national prefix is found:" + rest);
-		}
-		rest.erase(0, PREFIX_MOBILE_NATIONAL.size());
+		NUMBERING_TRACE(logger, "Mobile national prefix is found:" + subscriber);
+		subscriber.erase(0, PREFIX_MOBILE_NATIONAL.size());
 		mobile = true;
 	}
-	if (!hasLength(rest, area, NATIONAL_NUMBER_LENGTH)) return returnNull();
-	return returnRecord(std::make_unique<ZelStrippedNbr>(area, rest, mobile));
+	if (!hasLength(subscriber, area, NATIONAL_NUMBER_LENGTH)) return returnNull();
+	return returnRecord(std::make_unique<StrippedNumber>(area, subscriber, mobile));
 }
 
-std::unique_ptr<ZelStrippedNbr> ZelCNP_54::returnRecord(std::unique_ptr<ZelStrippedNbr> record)
+std::unique_ptr<StrippedNumber> ZelCNP_54::returnRecord(std::unique_ptr<StrippedNumber> record)
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("Argentina stripNumber returns " + record->ToString());
-	}
+	NUMBERING_TRACE(logger, "Argentina stripNumber returns " + record->ToString());
 	return record;
 }
 
-std::unique_ptr<ZelStrippedNbr> ZelCNP_54::returnNull()
+std::unique_ptr<StrippedNumber> ZelCNP_54::returnNull()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("Argentina StripNumber returns null");
-	}
+	NUMBERING_TRACE(logger, "Argentina StripNumber returns null");
 	return nullptr;
 }
 

@@ -7,8 +7,8 @@
 #include "numbering/Logger.h"
 #include "numbering/ZelDialRulesItem.h"
 
-#include "plans/ZelStrippedNbr.h"
-#include "plans/ZelTrunkPrefixPlan.h"
+#include "plans/StrippedNumber.h"
+#include "plans/TrunkPrefixPlan.h"
 
 #include <memory>
 #include <string>
@@ -19,7 +19,7 @@ namespace numbering {
 /// with "15" before the subscriber number at home and with "9" before the area code from abroad. The table
 /// must hold every area code and the non-geographic codes, none beginning with 0, 9 or 15. Canonical forms
 /// carry the E.164 digits: "+54 (11) 43211234", and "+54 (911) 23456789" for a mobile.
-class ZelCNP_54: public ZelTrunkPrefixPlan
+class ZelCNP_54: public TrunkPrefixPlan
 {
 public:
 	ZelCNP_54();
@@ -29,7 +29,7 @@ public:
 	/// an area code, locally ("15" + subscriber or subscriber). Empty when the number cannot be split: no known
 	/// area code, or area and subscriber not 10 digits together. "0111523456789" gives 11, 23456789, mobile.
 	/// Throws Poco::NullPointerException when the plan has no tree.
-	std::unique_ptr<ZelStrippedNbr> StripNbr(std::string full, ZelDialRulesItem* site);
+	std::unique_ptr<StrippedNumber> StripNbr(std::string full, ZelDialRulesItem* site);
 
 	/// "0", the trunk prefix.
 	static const std::string PREFIX_NATIONAL;
@@ -49,13 +49,13 @@ protected:
 	bool readPass(const Pass& pass, std::string& result) override;
 
 private:
-	std::unique_ptr<ZelStrippedNbr> stripLocal(const std::string& n, const std::string& siteArea);
+	std::unique_ptr<StrippedNumber> stripLocal(const std::string& digits, const std::string& siteArea);
 
-	std::unique_ptr<ZelStrippedNbr> stripNational(std::string n);
+	std::unique_ptr<StrippedNumber> stripNational(std::string digits);
 
-	std::unique_ptr<ZelStrippedNbr> returnRecord(std::unique_ptr<ZelStrippedNbr> record);
+	std::unique_ptr<StrippedNumber> returnRecord(std::unique_ptr<StrippedNumber> record);
 
-	std::unique_ptr<ZelStrippedNbr> returnNull();
+	std::unique_ptr<StrippedNumber> returnNull();
 
 	static Logger* logger;
 };

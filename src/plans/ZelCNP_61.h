@@ -6,7 +6,7 @@
 
 #include "numbering/Logger.h"
 
-#include "plans/ZelTrunkPrefixPlan.h"
+#include "plans/TrunkPrefixPlan.h"
 
 #include <string>
 
@@ -17,21 +17,18 @@ namespace numbering {
 /// "+61 13 ", "+61 1300 ", "+61 1800 " + their last digits, as dialled at home or in national form; other
 /// numbers beginning with 1 keep their form.
 /// "0292345678" gives "+61 (2) 92345678", "1300123456" "+61 1300 123456", "0131234" "+61 13 1234".
-class ZelCNP_61: public ZelTrunkPrefixPlan
+class ZelCNP_61: public TrunkPrefixPlan
 {
 public:
 	ZelCNP_61();
 
 protected:
-	bool readForm(const std::string& w, std::string& result) override;
+	/// "+61 " + lead + " " + the digits after it, for a 13, 1300 or 1800 number.
+	bool readServiceNumber(const std::string& candidate, std::string& result) override;
 
-	PreRule preRule(const std::string& rest, const Pass& pass, std::string& result) override;
-
-	bool isGeographic(const std::string& rest, const std::string& sub) override;
-
-	bool acceptsZeroForm(const std::string& rest) override;
-
-	bool isLocal(const std::string& siteArea, const std::string& w) override;
+	/// A service number in national form is read as above; other national numbers beginning with 1 or not of 9
+	/// digits are not national.
+	Verdict decideBeforeTable(const std::string& digits, const Pass& pass, std::string& result) override;
 
 private:
 	static Logger* logger;

@@ -2,7 +2,8 @@
 
 #include "plans/ZelCNP_64.h"
 
-#include "plans/ZelCNPTrace.h"
+#include "support/Plans.h"
+#include "support/Trace.h"
 
 #include "Poco/String.h"
 
@@ -41,10 +42,10 @@ std::optional<std::string> nationalRule(const std::string& number, std::string w
 {
 	if (!Poco::startsWith(work, TRUNK_PREFIX)) return std::nullopt;
 	work.erase(0, TRUNK_PREFIX.size());
-	const std::size_t m = work.size();
-	if (m < SHORT_LOCAL_LENGTH || work.at(0) == '0') return std::nullopt;
-	if (m == SHORT_LOCAL_LENGTH) return hasShortLocalNumbers(area) ? local(area, work) : number;
-	if (m == LOCAL_LENGTH) return local(area, work);
+	const std::size_t digits = work.size();
+	if (digits < SHORT_LOCAL_LENGTH || work.at(0) == '0') return std::nullopt;
+	if (digits == SHORT_LOCAL_LENGTH) return hasShortLocalNumbers(area) ? local(area, work) : number;
+	if (digits == LOCAL_LENGTH) return local(area, work);
 	switch (work.at(0))
 	{
 	case '3':
@@ -52,12 +53,12 @@ std::optional<std::string> nationalRule(const std::string& number, std::string w
 	case '6':
 	case '7':
 	case '9':
-		return m == 8 ? split(work, 1) : number;
+		return digits == 8 ? split(work, 1) : number;
 	case '5':
 	case '8':
 		return split(work, 3);
 	case '2':
-		return m == 8 || m == 9 ? split(work, 2) : number;
+		return digits == 8 || digits == 9 ? split(work, 2) : number;
 	default:
 		return number;
 	}
@@ -69,33 +70,27 @@ Logger* ZelCNP_64::logger = Logger::getLogger(typeid(ZelCNP_64).name());
 
 ZelCNP_64::ZelCNP_64()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelCNP_64()");
-	}
+	NUMBERING_TRACE(logger, "ZelCNP_64()");
 }
 
 std::string ZelCNP_64::qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules)
 {
-	ZelCNPTrace::logCall(logger, number, rules);
+	NUMBERING_TRACE(logger, detail::canonicalCallText(number, rules));
 	const std::string ext = rules->getExtPrefix();
 	const std::string area = rules->getAreaCode();
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelCNP_64");
-	}
-	const std::size_t n = number.size();
-	if (n < MIN_LENGTH) return number;
+	NUMBERING_TRACE(logger, "ZelCNP_64");
+	const std::size_t length = number.size();
+	if (length < MIN_LENGTH) return number;
 	if (Poco::startsWith(number, TRUNK_PREFIX))
 	{
 		std::optional<std::string> national = nationalRule(number, number, area);
 		if (national) return *national;
 	}
 	// Second look: a national number behind the external prefix, else a local number.
-	if (n > LOCAL_LENGTH && Poco::startsWith(number, ext))
+	if (length > LOCAL_LENGTH && Poco::startsWith(number, ext))
 		return nationalRule(number, number.substr(ext.size()), area).value_or(number);
-	if (n == SHORT_LOCAL_LENGTH) return hasShortLocalNumbers(area) ? local(area, number) : number;
-	if (n == LOCAL_LENGTH) return local(area, number);
+	if (length == SHORT_LOCAL_LENGTH) return hasShortLocalNumbers(area) ? local(area, number) : number;
+	if (length == LOCAL_LENGTH) return local(area, number);
 	return number;
 }
 

@@ -2,13 +2,15 @@
 
 #include "plans/ZelCNP_7.h"
 
+#include "support/Trace.h"
+
 #include <typeinfo>
 
 namespace numbering {
 
 namespace {
 
-const ZelClosedNationalPlan::Layout RUSSIA{"RU", 11, "+7 (", 1, 3};
+const ClosedNationalPlan::Layout RUSSIA{"RU", 11, "+7 (", 1, 3};
 
 } // namespace
 
@@ -17,12 +19,9 @@ Logger* ZelCNP_7::logger = Logger::getLogger(typeid(ZelCNP_7).name());
 ZelNumberingConfig* ZelCNP_7::config = nullptr;
 
 ZelCNP_7::ZelCNP_7():
-	ZelClosedNationalPlan(RUSSIA)
+	ClosedNationalPlan(RUSSIA)
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelCNP_7()");
-	}
+	NUMBERING_TRACE(logger, "ZelCNP_7()");
 	// Taken afresh by every plan: the configuration may have been reloaded since the previous plan was built.
 	config = ZelNumberingConfig::getInstance();
 }

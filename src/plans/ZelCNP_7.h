@@ -8,14 +8,14 @@
 #include "numbering/ZelDialRulesItem.h"
 #include "numbering/ZelNumberingConfig.h"
 
-#include "plans/ZelClosedNationalPlan.h"
+#include "plans/ClosedNationalPlan.h"
 
 #include <string>
 
 namespace numbering {
 
 /// The closed national plan of "RU": the trunk prefix is dropped and the next three digits are the area code.
-class ZelCNP_7: public ZelClosedNationalPlan
+class ZelCNP_7: public ClosedNationalPlan
 {
 public:
 	ZelCNP_7();

@@ -153,7 +153,7 @@ TEST_P(ZelCNP54StripTest, SplitsTheNumber)
 	configure(Setting::Sample);
 	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
 	Poco::AutoPtr<ZelCNP_54> plan(new ZelCNP_54());
-	const std::unique_ptr<ZelStrippedNbr> stripped = plan->StripNbr(row.full, *row.siteArea ? site.get() : nullptr);
+	const std::unique_ptr<StrippedNumber> stripped = plan->StripNbr(row.full, *row.siteArea ? site.get() : nullptr);
 	EXPECT_EQ(row.record, stripped ? stripped->ToString() : "");
 }
 

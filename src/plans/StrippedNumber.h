@@ -1,19 +1,19 @@
-// ZelStrippedNbr.h
+// StrippedNumber.h
 // An Argentine number split into area code, subscriber number and mobile flag.
 
-#ifndef Numbering_ZelStrippedNbr_INCLUDED
-#define Numbering_ZelStrippedNbr_INCLUDED
+#ifndef Numbering_StrippedNumber_INCLUDED
+#define Numbering_StrippedNumber_INCLUDED
 
 #include <string>
 
 namespace numbering {
 
 /// What ZelCNP_54::StripNbr reads from an Argentine number; the dialable maker rebuilds the number from it.
-class ZelStrippedNbr
+class StrippedNumber
 {
 public:
 	/// Stores the three values as given.
-	ZelStrippedNbr(std::string areaCode, std::string number, bool mobile);
+	StrippedNumber(std::string areaCode, std::string number, bool mobile);
 
 	/// The area code, without trunk prefix and without the mobile "9".
 	std::string getAreaCode();
@@ -35,4 +35,4 @@ private:
 
 } // namespace numbering
 
-#endif // Numbering_ZelStrippedNbr_INCLUDED
+#endif // Numbering_StrippedNumber_INCLUDED

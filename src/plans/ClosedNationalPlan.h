@@ -1,8 +1,8 @@
-// ZelClosedNationalPlan.h
+// ClosedNationalPlan.h
 // Shared algorithm of the plans whose national numbers all have one fixed length.
 
-#ifndef Numbering_ZelClosedNationalPlan_INCLUDED
-#define Numbering_ZelClosedNationalPlan_INCLUDED
+#ifndef Numbering_ClosedNationalPlan_INCLUDED
+#define Numbering_ClosedNationalPlan_INCLUDED
 
 #include "numbering/Logger.h"
 #include "numbering/ZelDialRulesItem.h"
@@ -18,7 +18,7 @@ namespace numbering {
 /// A closed national plan needs no area-code table: a national number has a fixed length, trunk prefix
 /// included. It is recognised as it stands, without its trunk prefix, or behind the site's external prefix.
 /// The trunk prefix is the long-distance prefix of the country's rule in the dialing-rules file.
-class ZelClosedNationalPlan: public ZelCNP
+class ClosedNationalPlan: public ZelCNP
 {
 public:
 	/// What sets one country's closed plan apart from another's.
@@ -36,7 +36,7 @@ public:
 	};
 
 protected:
-	explicit ZelClosedNationalPlan(const Layout& layout);
+	explicit ClosedNationalPlan(const Layout& layout);
 
 	/// The canonical number of number, or number unchanged when it is not recognised; traces go to logger, the
 	/// trunk prefix is read from config. With the French layout, "0123456789" and "123456789" give
@@ -55,4 +55,4 @@ private:
 
 } // namespace numbering
 
-#endif // Numbering_ZelClosedNationalPlan_INCLUDED
+#endif // Numbering_ClosedNationalPlan_INCLUDED

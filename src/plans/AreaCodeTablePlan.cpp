@@ -1,10 +1,11 @@
-// ZelAreaCodeTablePlan.cpp
+// AreaCodeTablePlan.cpp
 
-#include "plans/ZelAreaCodeTablePlan.h"
+#include "plans/AreaCodeTablePlan.h"
 
 #include "numbering/ZelNumberingConfig.h"
 
 #include "config/ZelPropertyFile.h"
+#include "support/Trace.h"
 
 #include "Poco/Exception.h"
 #include "Poco/Util/PropertyFileConfiguration.h"
@@ -55,7 +56,7 @@ Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> openTable(const std::string
 
 } // namespace
 
-ZelAreaCodeTablePlan::ZelAreaCodeTablePlan(Logger* logger,
+AreaCodeTablePlan::AreaCodeTablePlan(Logger* logger,
 	const std::string& callingCode,
 	const std::string& className,
 	const std::string& noCountryFileText,
@@ -92,9 +93,9 @@ ZelAreaCodeTablePlan::ZelAreaCodeTablePlan(Logger* logger,
 	}
 }
 
-ZelAreaCodeTablePlan::~ZelAreaCodeTablePlan() = default;
+AreaCodeTablePlan::~AreaCodeTablePlan() = default;
 
-void ZelAreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& table)
+void AreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& table)
 {
 	if (table.has("Translate")) m_Translate = table.getString("Translate") == "1";
 	std::string key = "AC_0000";
@@ -121,28 +122,40 @@ void ZelAreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& ta
 	}
 }
 
-Logger* ZelAreaCodeTablePlan::planLogger() const
+std::string AreaCodeTablePlan::takeAreaCode(std::string& rest, ZelDialRulesItem* rules)
 {
-	return m_Logger;
-}
-
-std::string ZelAreaCodeTablePlan::takeAreaCode(std::string& rest, ZelDialRulesItem* rules)
-{
-	// AutoPtr's operator-> throws Poco::NullPointerException for a plan without a tree.
-	std::string area = m_AreaCodeTree->extractAreaCode(rest);
+	std::string area = findAreaCode(rest);
 	if (area.empty())
 	{
-		if (Logger::m_Traces) m_Logger->debug("'" + rest + "' doesn't begin with a known area code");
+		NUMBERING_TRACE(m_Logger, "'" + rest + "' doesn't begin with a known area code");
 		return rules->getAreaCode();
 	}
-	if (Logger::m_Traces)
-	{
-		m_Logger->debug(area.size() == rest.size() ? "'" + rest + "' is an area code"
-												   : "'" + rest + "' isn't an area code, but begins with '" + area +
-														 "' which is an area code");
-	}
+	NUMBERING_TRACE(m_Logger, area.size() == rest.size() ? "'" + rest + "' is an area code"
+														 : "'" + rest + "' isn't an area code, but begins with '" +
+															   area + "' which is an area code");
 	rest.erase(0, area.size());
 	return area;
+}
+
+std::string AreaCodeTablePlan::findAreaCode(const std::string& digits)
+{
+	// AutoPtr's operator-> throws Poco::NullPointerException for a plan without a tree.
+	return m_AreaCodeTree->extractAreaCode(digits);
+}
+
+bool AreaCodeTablePlan::translates() const
+{
+	return m_Translate;
+}
+
+std::string::size_type AreaCodeTablePlan::longestAreaCode() const
+{
+	return static_cast<std::string::size_type>(m_MaxAreaCodeLength);
+}
+
+Logger* AreaCodeTablePlan::planLogger() const
+{
+	return m_Logger;
 }
 
 } // namespace numbering

@@ -1,34 +1,34 @@
-// ZelStrippedNbr.cpp
+// StrippedNumber.cpp
 
-#include "plans/ZelStrippedNbr.h"
+#include "plans/StrippedNumber.h"
 
 #include <utility>
 
 namespace numbering {
 
-ZelStrippedNbr::ZelStrippedNbr(std::string areaCode, std::string number, bool mobile):
+StrippedNumber::StrippedNumber(std::string areaCode, std::string number, bool mobile):
 	m_AreaCode(std::move(areaCode)),
 	m_Number(std::move(number)),
 	m_Mobile(mobile)
 {
 }
 
-std::string ZelStrippedNbr::getAreaCode()
+std::string StrippedNumber::getAreaCode()
 {
 	return m_AreaCode;
 }
 
-std::string ZelStrippedNbr::getNumber()
+std::string StrippedNumber::getNumber()
 {
 	return m_Number;
 }
 
-bool ZelStrippedNbr::isMobile()
+bool StrippedNumber::isMobile()
 {
 	return m_Mobile;
 }
 
-std::string ZelStrippedNbr::ToString()
+std::string StrippedNumber::ToString()
 {
 	return "areaCode : '" + m_AreaCode + "', number : '" + m_Number + "', mobile : " + (m_Mobile ? "true" : "false");
 }
