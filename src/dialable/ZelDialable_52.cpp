@@ -4,7 +4,7 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
-#include "support/MexicanPrefixes.h"
+#include "plans/ZelCNP_52.h"
 
 #include <typeinfo>
 
@@ -15,9 +15,9 @@ const std::string LONG_DIST_LABEL = "52-MX makeLongDistDialableNumber() AreaNatP
 
 } // namespace
 
-const std::string ZelDialable_52::PREFIX_MOBILE = detail::MEXICAN_PREFIX_MOBILE;
-const std::string ZelDialable_52::PREFIX_MOBILE_LOCAL = detail::MEXICAN_PREFIX_MOBILE_LOCAL;
-const std::string ZelDialable_52::PREFIX_MOBILE_DISTANT = detail::MEXICAN_PREFIX_MOBILE_DISTANT;
+const std::string ZelDialable_52::PREFIX_MOBILE = ZelCNP_52::PREFIX_MOBILE;
+const std::string ZelDialable_52::PREFIX_MOBILE_LOCAL = ZelCNP_52::PREFIX_MOBILE_LOCAL;
+const std::string ZelDialable_52::PREFIX_MOBILE_DISTANT = ZelCNP_52::PREFIX_MOBILE_DISTANT;
 
 Logger* ZelDialable_52::logger = Logger::getLogger(typeid(ZelDialable_52).name());
 

@@ -5,14 +5,11 @@
 #define Numbering_AreaCodeTablePlan_INCLUDED
 
 #include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
 
 #include "plans/ZelCNP.h"
 #include "trees/ZelAreaCodeTree.h"
 
 #include "Poco/AutoPtr.h"
-
-#include <string>
 
 namespace Poco {
 namespace Util {

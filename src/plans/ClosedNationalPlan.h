@@ -5,13 +5,11 @@
 #define Numbering_ClosedNationalPlan_INCLUDED
 
 #include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
 #include "numbering/ZelNumberingConfig.h"
 
 #include "plans/ZelCNP.h"
 
 #include <cstddef>
-#include <string>
 
 namespace numbering {
 

@@ -25,11 +25,6 @@ bool beginsWithTrunkPrefix(const std::string& s)
 
 } // namespace
 
-bool TrunkPrefixPlan::Lengths::holds(std::string::size_type length) const
-{
-	return length >= min && length <= max;
-}
-
 bool TrunkPrefixPlan::Block::holds(const std::string& digits) const
 {
 	return lengths.holds(digits.size()) && Poco::startsWith(digits, lead);
@@ -76,9 +71,11 @@ bool TrunkPrefixPlan::readServiceNumber(const std::string&, std::string&)
 	return false;
 }
 
-TrunkPrefixPlan::Verdict TrunkPrefixPlan::decideBeforeTable(const std::string&, const Pass&, std::string&)
+TrunkPrefixPlan::Verdict TrunkPrefixPlan::decideBeforeTable(const std::string& digits, const Pass&, std::string& result)
 {
-	return Verdict::AskTable;
+	if (!findBlock(m_Country.zeroFormFirst, digits)) return Verdict::AskTable;
+	result = zeroForm(digits);
+	return Verdict::Read;
 }
 
 bool TrunkPrefixPlan::readUnknownCode(const std::string& digits, const std::string&, std::string& result)
@@ -136,11 +133,6 @@ bool TrunkPrefixPlan::readNational(std::string digits, const Pass& pass, std::st
 	// A second "0" opens an international number; a number shorter than every code cannot be split.
 	if (digits.size() < detail::MIN_DIGITS || beginsWithTrunkPrefix(digits) || digits.size() < longestAreaCode())
 		return false;
-	if (findBlock(m_Country.zeroFormFirst, digits))
-	{
-		result = zeroForm(digits);
-		return true;
-	}
 	const Verdict verdict = decideBeforeTable(digits, pass, result);
 	if (verdict != Verdict::AskTable) return verdict == Verdict::Read;
 	const std::string::size_type length = digits.size();

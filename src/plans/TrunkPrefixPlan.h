@@ -4,12 +4,8 @@
 #ifndef Numbering_TrunkPrefixPlan_INCLUDED
 #define Numbering_TrunkPrefixPlan_INCLUDED
 
-#include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
-
 #include "plans/AreaCodeTablePlan.h"
 
-#include <string>
 #include <vector>
 
 namespace numbering {
@@ -30,7 +26,10 @@ public:
 		std::string::size_type min;
 		std::string::size_type max;
 
-		bool holds(std::string::size_type length) const;
+		bool holds(std::string::size_type length) const
+		{
+			return length >= min && length <= max;
+		}
 	};
 
 	/// A block of numbers: those that begin with lead and whose length is in lengths.
@@ -104,7 +103,8 @@ protected:
 	/// first. None by default.
 	virtual bool readServiceNumber(const std::string& candidate, std::string& result);
 
-	/// Decides a national number (digits) before the table is asked; AskTable by default.
+	/// Decides a national number (digits) before the table is asked; by default the zeroFormFirst blocks are
+	/// read in zero form and any other number goes to the table.
 	virtual Verdict decideBeforeTable(const std::string& digits, const Pass& pass, std::string& result);
 
 	/// True, with result set, when a national number (digits) whose code the table does not know is read anyway;

@@ -6,8 +6,6 @@
 
 #include "plans/ZelCNP.h"
 
-#include <string>
-
 namespace numbering {
 
 /// Maker of country numbering plans.

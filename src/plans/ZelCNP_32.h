@@ -4,8 +4,6 @@
 #ifndef Numbering_ZelCNP_32_INCLUDED
 #define Numbering_ZelCNP_32_INCLUDED
 
-#include "numbering/Logger.h"
-
 #include "plans/TrunkPrefixPlan.h"
 
 namespace numbering {

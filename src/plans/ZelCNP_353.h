@@ -4,12 +4,7 @@
 #ifndef Numbering_ZelCNP_353_INCLUDED
 #define Numbering_ZelCNP_353_INCLUDED
 
-#include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
-
 #include "plans/TrunkPrefixPlan.h"
-
-#include <string>
 
 namespace numbering {
 

@@ -4,8 +4,6 @@
 #ifndef Numbering_ZelCNP_43_INCLUDED
 #define Numbering_ZelCNP_43_INCLUDED
 
-#include "numbering/Logger.h"
-
 #include "plans/TrunkPrefixPlan.h"
 
 namespace numbering {

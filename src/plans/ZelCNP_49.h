@@ -4,11 +4,7 @@
 #ifndef Numbering_ZelCNP_49_INCLUDED
 #define Numbering_ZelCNP_49_INCLUDED
 
-#include "numbering/Logger.h"
-
 #include "plans/TrunkPrefixPlan.h"
-
-#include <string>
 
 namespace numbering {
 

@@ -4,13 +4,13 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
-#include "support/MexicanPrefixes.h"
 #include "support/Plans.h"
 #include "support/Trace.h"
 
 #include <algorithm>
 #include <string_view>
 #include <typeinfo>
+#include <vector>
 
 namespace numbering {
 
@@ -19,6 +19,15 @@ namespace {
 const std::string COUNTRY_HEAD = "+52 ";
 
 const std::string::size_type MIN_LENGTH = 7;
+
+/// Digits of a national significant number.
+const std::string::size_type NATIONAL_NUMBER_LENGTH = 10;
+
+/// "01", the long-distance prefix of the before-2019 rules.
+const std::string PREFIX_NATIONAL = "01";
+
+/// The area codes of two digits; every other code has three.
+const std::vector<std::string> AREA_CODES_2 = {"33", "55", "56", "81"};
 const std::string NO_PREFIX;
 
 /// A national number behind the prefix first + second; mobile when the prefix marks a mobile number.
@@ -29,11 +38,16 @@ struct NationalForm
 	bool mobile;
 };
 
+std::string mobileMarker()
+{
+	// A site dialling the ten digits has no long-distance prefix; ZelDialable_52 would dial the marker as 044
+	// or 045, so mobile numbers are then written like fixed ones.
+	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("MX");
+	return rule != nullptr && rule->getLongDistPrefix().empty() ? "" : ZelCNP_52::PREFIX_MOBILE;
+}
+
 } // namespace
 
-const std::string ZelCNP_52::PREFIX_NATIONAL = "01";
-const std::string ZelCNP_52::COUNTRY_CODE = "MX";
-const std::vector<std::string> ZelCNP_52::AREA_CODES_2 = {"33", "55", "56", "81"};
 Logger* ZelCNP_52::logger = Logger::getLogger(typeid(ZelCNP_52).name());
 
 ZelCNP_52::ZelCNP_52()
@@ -59,10 +73,9 @@ std::string ZelCNP_52::qap_Country_MakeCanonicalNumber(std::string number, ZelDi
 bool ZelCNP_52::readNational(const std::string& candidate, std::string& result)
 {
 	// Ten digits alone do not tell a mobile number from a fixed one: they are taken as fixed.
-	const NationalForm forms[] = {{detail::MEXICAN_PREFIX_MOBILE_LOCAL, NO_PREFIX, true},
-		{detail::MEXICAN_PREFIX_MOBILE_DISTANT, NO_PREFIX, true},
-		{PREFIX_NATIONAL, detail::MEXICAN_PREFIX_MOBILE, true}, {PREFIX_NATIONAL, NO_PREFIX, false},
-		{detail::MEXICAN_PREFIX_MOBILE, NO_PREFIX, true}, {NO_PREFIX, NO_PREFIX, false}};
+	const NationalForm forms[] = {{PREFIX_MOBILE_LOCAL, NO_PREFIX, true}, {PREFIX_MOBILE_DISTANT, NO_PREFIX, true},
+		{PREFIX_NATIONAL, PREFIX_MOBILE, true}, {PREFIX_NATIONAL, NO_PREFIX, false}, {PREFIX_MOBILE, NO_PREFIX, true},
+		{NO_PREFIX, NO_PREFIX, false}};
 	const NationalForm* form = std::find_if(std::begin(forms), std::end(forms), [&candidate](const NationalForm& f) {
 		return candidate.size() == NATIONAL_NUMBER_LENGTH + f.first.size() + f.second.size() &&
 			   candidate.compare(0, f.first.size(), f.first) == 0 &&
@@ -88,14 +101,6 @@ bool ZelCNP_52::readLocal(const std::string& candidate, const std::string& siteA
 	NUMBERING_TRACE(logger, "Local number detected : '" + candidate + "'");
 	result = COUNTRY_HEAD + "(" + siteArea + ") " + candidate;
 	return true;
-}
-
-std::string ZelCNP_52::mobileMarker()
-{
-	// A site dialling the ten digits has no long-distance prefix; ZelDialable_52 would dial the marker as 044
-	// or 045, so mobile numbers are then written like fixed ones.
-	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule(COUNTRY_CODE);
-	return rule != nullptr && rule->getLongDistPrefix().empty() ? "" : detail::MEXICAN_PREFIX_MOBILE;
 }
 
 } // namespace numbering

@@ -8,9 +8,6 @@
 
 #include "plans/ZelCNP.h"
 
-#include <string>
-#include <vector>
-
 namespace numbering {
 
 /// Needs no table: the two-digit area codes are listed below, every other code has three digits. A mobile
@@ -26,24 +23,19 @@ public:
 	/// reads gives "+52 " + its digits; anything else comes back unchanged.
 	std::string qap_Country_MakeCanonicalNumber(std::string number, ZelDialRulesItem* rules) override;
 
-	/// "01", the long-distance prefix of the before-2019 rules.
-	static const std::string PREFIX_NATIONAL;
+	/// Leading digit of the area part of a mobile number in canonical form: "1".
+	static constexpr char PREFIX_MOBILE[] = "1";
 
-	/// "MX", the configuration's code for Mexico.
-	static const std::string COUNTRY_CODE;
+	/// Dialled before a mobile of the caller's own area: "044".
+	static constexpr char PREFIX_MOBILE_LOCAL[] = "044";
 
-	/// The area codes of two digits: 33, 55, 56, 81.
-	static const std::vector<std::string> AREA_CODES_2;
-
-	/// Digits of a national significant number.
-	static const int NATIONAL_NUMBER_LENGTH = 10;
+	/// Dialled before a mobile of another area: "045".
+	static constexpr char PREFIX_MOBILE_DISTANT[] = "045";
 
 private:
 	bool readNational(const std::string& candidate, std::string& result);
 
 	bool readLocal(const std::string& candidate, const std::string& siteArea, std::string& result);
-
-	static std::string mobileMarker();
 
 	static Logger* logger;
 };

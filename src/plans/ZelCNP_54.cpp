@@ -13,6 +13,14 @@ namespace numbering {
 
 namespace {
 
+const std::string PREFIX_NATIONAL = "0";
+
+/// Dialled before the area code of a mobile from abroad.
+const std::string PREFIX_MOBILE_INTERNATIONAL = "9";
+
+/// Digits of area code and subscriber number together.
+const std::string::size_type NATIONAL_NUMBER_LENGTH = 10;
+
 /// Digits of a mobile number with its "15": area code, "15", subscriber number.
 const std::string::size_type MOBILE_NUMBER_LENGTH = 12;
 
@@ -26,9 +34,7 @@ bool hasLength(const std::string& s, const std::string& area, std::string::size_
 
 } // namespace
 
-const std::string ZelCNP_54::PREFIX_NATIONAL = "0";
 const std::string ZelCNP_54::PREFIX_MOBILE_NATIONAL = "15";
-const std::string ZelCNP_54::PREFIX_MOBILE_INTERNATIONAL = "9";
 
 Logger* ZelCNP_54::logger = Logger::getLogger(typeid(ZelCNP_54).name());
 

@@ -4,14 +4,10 @@
 #ifndef Numbering_ZelCNP_54_INCLUDED
 #define Numbering_ZelCNP_54_INCLUDED
 
-#include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
-
 #include "plans/StrippedNumber.h"
 #include "plans/TrunkPrefixPlan.h"
 
 #include <memory>
-#include <string>
 
 namespace numbering {
 
@@ -31,17 +27,8 @@ public:
 	/// Throws Poco::NullPointerException when the plan has no tree.
 	std::unique_ptr<StrippedNumber> StripNbr(std::string full, ZelDialRulesItem* site);
 
-	/// "0", the trunk prefix.
-	static const std::string PREFIX_NATIONAL;
-
 	/// "15", dialled before the subscriber number of a mobile at home.
 	static const std::string PREFIX_MOBILE_NATIONAL;
-
-	/// "9", dialled before the area code of a mobile from abroad.
-	static const std::string PREFIX_MOBILE_INTERNATIONAL;
-
-	/// Digits of area code and subscriber number together.
-	static const int NATIONAL_NUMBER_LENGTH = 10;
 
 protected:
 	/// A number with the trunk prefix, or in the second pass with translation on any number, is read by

@@ -5,11 +5,8 @@
 #define Numbering_ZelCNP_57_INCLUDED
 
 #include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
 
 #include "plans/ZelCNP.h"
-
-#include <string>
 
 namespace numbering {
 

@@ -4,13 +4,7 @@
 #ifndef Numbering_ZelCNP_7_INCLUDED
 #define Numbering_ZelCNP_7_INCLUDED
 
-#include "numbering/Logger.h"
-#include "numbering/ZelDialRulesItem.h"
-#include "numbering/ZelNumberingConfig.h"
-
 #include "plans/ClosedNationalPlan.h"
-
-#include <string>
 
 namespace numbering {
 
