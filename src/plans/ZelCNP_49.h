@@ -8,10 +8,11 @@
 
 namespace numbering {
 
-/// Germany (calling code 49), an open plan: "0301234567" gives "+49 (30) 1234567". Besides the trunk-prefix
-/// plans' rules, with translation on, every number that is not read as national is local, whatever it begins
-/// with; a number without the external prefix is read as local whole. A missing table leaves every national
-/// number with the site's area code, and a number no rule reads is returned unchanged.
+/// Germany (calling code 49), an open plan: "0301234567" gives "+49 (30) 1234567". It reads more than the other
+/// trunk-prefix plans: with translation on, a number not read as national is local whatever its first digit
+/// and length, and a number that does not follow the external prefix is local whole; a code the table does not
+/// know takes the site's area code, so a missing table leaves every national number with it. A number no rule
+/// reads comes back unchanged.
 class ZelCNP_49: public TrunkPrefixPlan
 {
 public:

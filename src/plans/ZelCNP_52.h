@@ -10,7 +10,7 @@
 
 namespace numbering {
 
-/// Needs no table: the two-digit area codes are listed below, every other code has three digits. A mobile
+/// Needs no table: the plan lists the four two-digit area codes, every other code has three digits. A mobile
 /// number gets the mobile marker "1" before its area code, which ZelDialable_52 dials as 044 or 045, unless
 /// the "MX" rule has no long-distance prefix (ten-digit dialling), which drops the marker.
 class ZelCNP_52: public ZelCNP
