@@ -124,7 +124,8 @@ void AreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& table
 
 std::string AreaCodeTablePlan::takeAreaCode(std::string& rest, ZelDialRulesItem* rules)
 {
-	std::string area = findAreaCode(rest);
+	// AutoPtr's operator-> throws Poco::NullPointerException for a plan without a tree.
+	std::string area = m_AreaCodeTree->extractAreaCode(rest);
 	if (area.empty())
 	{
 		NUMBERING_TRACE(m_Logger, "'" + rest + "' doesn't begin with a known area code");
@@ -139,7 +140,6 @@ std::string AreaCodeTablePlan::takeAreaCode(std::string& rest, ZelDialRulesItem*
 
 std::string AreaCodeTablePlan::findAreaCode(const std::string& digits)
 {
-	// AutoPtr's operator-> throws Poco::NullPointerException for a plan without a tree.
 	return m_AreaCodeTree->extractAreaCode(digits);
 }
 

@@ -7,16 +7,14 @@
 
 #include "Poco/String.h"
 
-#include <algorithm>
-
 namespace numbering {
 
 namespace {
 
 const std::string TRUNK_PREFIX = "0";
 
-/// Length of the "(" and ") " around an area code.
-const std::string::size_type AREA_FRAME_LENGTH = 3;
+/// What follows the area code in a canonical number.
+const std::string AREA_END = ") ";
 
 bool beginsWithTrunkPrefix(const std::string& s)
 {
@@ -34,7 +32,8 @@ TrunkPrefixPlan::TrunkPrefixPlan(Logger* logger, const Country& country):
 	AreaCodeTablePlan(
 		logger, country.callingCode, country.className, country.noCountryFileText, country.noDefaultFileText),
 	m_Country(country),
-	m_CountryHead("+" + std::string(country.callingCode) + " ")
+	m_CountryHead("+" + std::string(country.callingCode) + " "),
+	m_AreaStart(m_CountryHead + "(")
 {
 }
 
@@ -105,16 +104,18 @@ bool TrunkPrefixPlan::keepCountry(const std::string& number, const std::string& 
 
 const TrunkPrefixPlan::Block* TrunkPrefixPlan::findBlock(const std::vector<Block>& blocks, const std::string& digits)
 {
-	const auto block =
-		std::find_if(blocks.begin(), blocks.end(), [&digits](const Block& b) { return b.holds(digits); });
-	return block == blocks.end() ? nullptr : &*block;
+	for (const Block& block : blocks)
+	{
+		if (block.holds(digits)) return &block;
+	}
+	return nullptr;
 }
 
 std::string TrunkPrefixPlan::areaForm(const std::string& area, const std::string& subscriber) const
 {
 	std::string form;
-	form.reserve(m_CountryHead.size() + area.size() + subscriber.size() + AREA_FRAME_LENGTH);
-	form.append(m_CountryHead).append("(").append(area).append(") ").append(subscriber);
+	form.reserve(m_AreaStart.size() + area.size() + AREA_END.size() + subscriber.size());
+	form.append(m_AreaStart).append(area).append(AREA_END).append(subscriber);
 	return form;
 }
 

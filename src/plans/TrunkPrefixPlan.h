@@ -142,6 +142,8 @@ private:
 
 	const Country m_Country;
 	const std::string m_CountryHead;
+	/// "+CC (".
+	const std::string m_AreaStart;
 };
 
 } // namespace numbering

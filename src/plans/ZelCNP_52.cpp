@@ -38,6 +38,11 @@ struct NationalForm
 	bool mobile;
 };
 
+/// Ten digits alone do not tell a mobile number from a fixed one: they are taken as fixed.
+const NationalForm NATIONAL_FORMS[] = {{ZelCNP_52::PREFIX_MOBILE_LOCAL, NO_PREFIX, true},
+	{ZelCNP_52::PREFIX_MOBILE_DISTANT, NO_PREFIX, true}, {PREFIX_NATIONAL, ZelCNP_52::PREFIX_MOBILE, true},
+	{PREFIX_NATIONAL, NO_PREFIX, false}, {ZelCNP_52::PREFIX_MOBILE, NO_PREFIX, true}, {NO_PREFIX, NO_PREFIX, false}};
+
 std::string mobileMarker()
 {
 	// A site dialling the ten digits has no long-distance prefix; ZelDialable_52 would dial the marker as 044
@@ -72,16 +77,13 @@ std::string ZelCNP_52::qap_Country_MakeCanonicalNumber(std::string number, ZelDi
 
 bool ZelCNP_52::readNational(const std::string& candidate, std::string& result)
 {
-	// Ten digits alone do not tell a mobile number from a fixed one: they are taken as fixed.
-	const NationalForm forms[] = {{PREFIX_MOBILE_LOCAL, NO_PREFIX, true}, {PREFIX_MOBILE_DISTANT, NO_PREFIX, true},
-		{PREFIX_NATIONAL, PREFIX_MOBILE, true}, {PREFIX_NATIONAL, NO_PREFIX, false}, {PREFIX_MOBILE, NO_PREFIX, true},
-		{NO_PREFIX, NO_PREFIX, false}};
-	const NationalForm* form = std::find_if(std::begin(forms), std::end(forms), [&candidate](const NationalForm& f) {
-		return candidate.size() == NATIONAL_NUMBER_LENGTH + f.first.size() + f.second.size() &&
-			   candidate.compare(0, f.first.size(), f.first) == 0 &&
-			   candidate.compare(f.first.size(), f.second.size(), f.second) == 0;
-	});
-	if (form == std::end(forms)) return false;
+	const NationalForm* form =
+		std::find_if(std::begin(NATIONAL_FORMS), std::end(NATIONAL_FORMS), [&candidate](const NationalForm& f) {
+			return candidate.size() == NATIONAL_NUMBER_LENGTH + f.first.size() + f.second.size() &&
+				   candidate.compare(0, f.first.size(), f.first) == 0 &&
+				   candidate.compare(f.first.size(), f.second.size(), f.second) == 0;
+		});
+	if (form == std::end(NATIONAL_FORMS)) return false;
 	const std::string nsn = candidate.substr(form->first.size() + form->second.size());
 	if (nsn[0] < '2' || nsn[0] > '9') return false;
 	const bool twoDigits = std::find(AREA_CODES_2.begin(), AREA_CODES_2.end(), nsn.substr(0, 2)) != AREA_CODES_2.end();
