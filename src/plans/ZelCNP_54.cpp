@@ -13,6 +13,7 @@ namespace numbering {
 
 namespace {
 
+/// The trunk prefix.
 const std::string PREFIX_NATIONAL = "0";
 
 /// Dialled before the area code of a mobile from abroad.
