@@ -2,10 +2,9 @@
 
 #include "dialable/ZelDialable_54.h"
 
-#include "numbering/ZelNumberingConfig.h"
-
 #include "plans/ZelCNPManager.h"
 #include "plans/ZelCNP_54.h"
+#include "support/Trace.h"
 
 #include <typeinfo>
 
@@ -34,19 +33,13 @@ std::string ZelDialable_54::makeLocalDialableNumber(
 std::string ZelDialable_54::MakeLocalOrLongDistDialableNumber(
 	std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule, ZelDialRulesItem* site)
 {
-	std::string result;
-	result.reserve(ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
-	result += areaNatPfx;
-	result += dest;
+	std::string result = areaAndDest(areaNatPfx, dest);
 	// A plan of another class, or none, cannot split the number either.
 	ZelCNP_54* plan = dynamic_cast<ZelCNP_54*>(ZelCNPManager::getInstance()->getCNP(ARGENTINA));
-	const std::unique_ptr<ZelStrippedNbr> stripped = plan != nullptr ? plan->StripNbr(result, site) : nullptr;
+	const auto stripped = plan != nullptr ? plan->StripNbr(result, site) : nullptr;
 	if (!stripped)
 	{
-		if (Logger::m_Traces)
-		{
-			logger->debug("makeLocalOrLongDistDialableNumber(Argentina): not possible to strip the number");
-		}
+		NUMBERING_TRACE(logger, "makeLocalOrLongDistDialableNumber(Argentina): not possible to strip the number");
 		return result;
 	}
 	const std::string area = stripped->getAreaCode();

@@ -5,7 +5,6 @@
 #define Numbering_ZelDialable_57_INCLUDED
 
 #include "numbering/Logger.h"
-#include "numbering/ZelNumberingConfig.h"
 
 #include "dialable/ZelDialable.h"
 #include "trees/ZelAreaCodeTree.h"
@@ -59,7 +58,6 @@ private:
 
 	std::string m_OperatorCode;
 	Poco::AutoPtr<ZelAreaCodeTree> m_OperatorTree;
-	ZelNumberingConfig* m_Config;
 };
 
 } // namespace numbering
