@@ -23,7 +23,6 @@ const std::string MASK_KEY_MARK = "Mask_";
 const std::string ACTIVATION_KEY_PREFIX = "cnp_";
 const std::string COUNTRY_MASKS_LOADED = " country masks loaded";
 const std::string NO_DIALING_RULES_FILE = "No specific dialing rules configuration file";
-const std::string NO_ACTIVATION_FILE = "No specific format activation configuration file";
 const char* const DIALING_RULES_NAME = "dialingrules.properties";
 const char* const DIALING_RULES_DEFAULT_NAME = "dialingrules_default.properties";
 const char* const COUNTRY_MASKS_NAME = "qap_cnp_mask.properties";
@@ -62,8 +61,7 @@ bool walkProperties(Logger* logger,
 	NUMBERING_TRACE(logger, std::string(loader) + "()");
 	try
 	{
-		Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> properties =
-			detail::openPropertyFile(file, defaultFile, logger, missingText, missingText);
+		const auto properties = detail::openPropertyFile(file, defaultFile, logger, missingText, missingText);
 		Poco::Util::AbstractConfiguration::Keys keys;
 		properties->keys(keys);
 		for (const std::string& key : keys)
@@ -202,7 +200,8 @@ bool ZelNumberingConfig::loadCountryMasks()
 bool ZelNumberingConfig::loadSpecificFormatActivation()
 {
 	return walkProperties(logger, "loadSpecificFormatActivation", SPECIFIC_FORMAT_FILE, SPECIFIC_FORMAT_DEFAULT_FILE,
-		NO_ACTIVATION_FILE, [this](const Poco::Util::AbstractConfiguration& properties, const std::string& key) {
+		"No specific format activation configuration file",
+		[this](const Poco::Util::AbstractConfiguration& properties, const std::string& key) {
 			if (key.compare(0, ACTIVATION_KEY_PREFIX.size(), ACTIVATION_KEY_PREFIX) != 0) return;
 			const std::string number = key.substr(ACTIVATION_KEY_PREFIX.size());
 			if (number.empty() || number.size() > static_cast<std::size_t>(MAX_COUNTRY_NUMBER_LENGTH)) return;

@@ -26,10 +26,6 @@ void ZelDialableManager::resetInstance()
 	instance = nullptr;
 }
 
-ZelDialableManager::ZelDialableManager() = default;
-
-ZelDialableManager::~ZelDialableManager() = default;
-
 ZelDialable* ZelDialableManager::getDialable(std::string countryNumber)
 {
 	NUMBERING_TRACE(logger, "getDialable('" + countryNumber + "')");

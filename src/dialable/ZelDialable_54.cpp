@@ -10,12 +10,6 @@
 
 namespace numbering {
 
-namespace {
-
-const std::string ARGENTINA = "AR";
-
-} // namespace
-
 Logger* ZelDialable_54::logger = Logger::getLogger(typeid(ZelDialable_54).name());
 
 std::string ZelDialable_54::makeLongDistDialableNumber(
@@ -35,7 +29,7 @@ std::string ZelDialable_54::MakeLocalOrLongDistDialableNumber(
 {
 	std::string result = areaAndDest(areaNatPfx, dest);
 	// A plan of another class, or none, cannot split the number either.
-	ZelCNP_54* plan = dynamic_cast<ZelCNP_54*>(ZelCNPManager::getInstance()->getCNP(ARGENTINA));
+	ZelCNP_54* plan = dynamic_cast<ZelCNP_54*>(ZelCNPManager::getInstance()->getCNP("AR"));
 	const auto stripped = plan != nullptr ? plan->StripNbr(result, site) : nullptr;
 	if (!stripped)
 	{

@@ -9,13 +9,6 @@
 #include <typeinfo>
 
 namespace numbering {
-namespace {
-
-const std::string PLAN_FILE = "r7731cnp_57.properties";
-const std::string PLAN_DEFAULT_FILE = "r7731cnp_57_default.properties";
-const std::string OPERATOR_KEY = "OP_";
-
-} // namespace
 
 const std::string ZelDialable_57::MOBILE_PREFIX = "3";
 const std::string ZelDialable_57::OP_DEFAULT_KEY = "OP_DEFAULT";
@@ -37,14 +30,14 @@ void ZelDialable_57::loadOperators()
 	const std::string directory = ZelNumberingConfig::getConfigDirectory();
 	try
 	{
-		Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> plan =
-			detail::openPropertyFile(directory + PLAN_FILE, directory + PLAN_DEFAULT_FILE, logger,
-				"No specific configuration file for Colombia", "No specific dialing rules configuration file");
+		const auto plan =
+			detail::openPropertyFile(directory + "r7731cnp_57.properties", directory + "r7731cnp_57_default.properties",
+				logger, "No specific configuration file for Colombia", "No specific dialing rules configuration file");
 		m_OperatorCode = plan->getString(OP_DEFAULT_KEY, m_OperatorCode);
 		// The first missing key throws and ends the list, so a gap hides every prefix after it; so does a value
 		// without digits, which the tree refuses.
 		detail::forEachNumberedValue(
-			*plan, OPERATOR_KEY, [this](const std::string& value) { m_OperatorTree->insert(detail::digitsOf(value)); });
+			*plan, "OP_", [this](const std::string& value) { m_OperatorTree->insert(detail::digitsOf(value)); });
 	}
 	catch (const std::exception& e)
 	{

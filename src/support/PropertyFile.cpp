@@ -20,20 +20,6 @@ Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> open(const std::string& pat
 	return new Poco::Util::PropertyFileConfiguration(path);
 }
 
-void infoUnlessEmpty(Logger* logger, const std::string& text)
-{
-	if (!text.empty()) logger->info(text);
-}
-
-/// Writes index into the four digits that end key: "AC_0000" becomes "AC_0042" for 42. Thousands of keys are
-/// read per file, and rewriting four characters costs a fraction of formatting each key anew.
-void setKeyIndex(std::string& key, int index)
-{
-	const std::string::size_type digits = 4;
-	for (std::string::size_type i = key.size(); i-- > key.size() - digits; index /= 10)
-		key[i] = static_cast<char>('0' + index % 10);
-}
-
 } // namespace
 
 Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> openPropertyFile(const std::string& path,
@@ -48,11 +34,11 @@ Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> openPropertyFile(const std:
 	}
 	catch (const Poco::FileNotFoundException&)
 	{
-		infoUnlessEmpty(logger, missingText);
+		if (!missingText.empty()) logger->info(missingText);
 	}
 	catch (const Poco::OpenFileException&)
 	{
-		infoUnlessEmpty(logger, unreadableText);
+		if (!unreadableText.empty()) logger->info(unreadableText);
 	}
 	return open(defaultPath);
 }
@@ -65,7 +51,10 @@ void forEachNumberedValue(const Poco::Util::AbstractConfiguration& file,
 	std::string key = prefix + "0000";
 	for (int index = 0; index <= LAST_KEY_INDEX; ++index)
 	{
-		setKeyIndex(key, index);
+		// Thousands of keys are read per file: rewriting the four digits at the end costs a fraction of
+		// formatting each key anew.
+		for (std::string::size_type i = key.size(), rest = index; i-- > prefix.size(); rest /= 10)
+			key[i] = static_cast<char>('0' + rest % 10);
 		visit(file.getString(key));
 	}
 }
