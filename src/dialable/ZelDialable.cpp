@@ -99,9 +99,7 @@ void ZelDialable::mergePrefix(std::string& number, const std::string& prefix)
 	// Position by position and never looking back: a number that shares only its first characters with the
 	// prefix gets just the missing ones. Dialled numbers depend on exactly this, so it is not a prefix test.
 	for (std::string::size_type i = 0; i < prefix.size(); ++i)
-	{
 		if (i == number.size() || number[i] != prefix[i]) number.insert(i, 1, prefix[i]);
-	}
 }
 
 std::string ZelDialable::longDistTrace(

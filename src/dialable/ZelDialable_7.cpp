@@ -9,14 +9,12 @@
 namespace numbering {
 namespace {
 
-const std::string RUSSIA = "RU";
-
 const std::string::size_type DIALLED_LENGTH = 11;
 
 /// The long-distance prefix of "RU"; a configuration without that country dials no prefix rather than crash.
 std::string russianLongDistPrefix()
 {
-	ZelCountryRuleItem* russia = ZelNumberingConfig::getInstance()->getCountryRule(RUSSIA);
+	ZelCountryRuleItem* russia = ZelNumberingConfig::getInstance()->getCountryRule("RU");
 	return russia ? russia->getLongDistPrefix() : std::string();
 }
 
