@@ -43,11 +43,6 @@ std::string& configDirectory()
 	return directory;
 }
 
-std::string configPath(const char* name)
-{
-	return configDirectory() + name;
-}
-
 /// Opens file, or defaultFile after writing missingText, and hands each top-level key to visit. Traces loader + "()"
 /// first; logs any failure as the error of loader and returns false then.
 template <typename Visit>
@@ -113,12 +108,12 @@ std::string lookUp(const Map& map, const std::string& key)
 ZelNumberingConfig* ZelNumberingConfig::instance = nullptr;
 Logger* ZelNumberingConfig::logger = Logger::getLogger(typeid(ZelNumberingConfig).name());
 
-std::string ZelNumberingConfig::DIALING_RULES_FILE = configPath(DIALING_RULES_NAME);
-std::string ZelNumberingConfig::DIALING_RULES_DEFAULT_FILE = configPath(DIALING_RULES_DEFAULT_NAME);
-std::string ZelNumberingConfig::COUNTRY_MASKS_FILE = configPath(COUNTRY_MASKS_NAME);
-std::string ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE = configPath(COUNTRY_MASKS_DEFAULT_NAME);
-std::string ZelNumberingConfig::SPECIFIC_FORMAT_FILE = configPath(SPECIFIC_FORMAT_NAME);
-std::string ZelNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE = configPath(SPECIFIC_FORMAT_DEFAULT_NAME);
+std::string ZelNumberingConfig::DIALING_RULES_FILE = configDirectory() + DIALING_RULES_NAME;
+std::string ZelNumberingConfig::DIALING_RULES_DEFAULT_FILE = configDirectory() + DIALING_RULES_DEFAULT_NAME;
+std::string ZelNumberingConfig::COUNTRY_MASKS_FILE = configDirectory() + COUNTRY_MASKS_NAME;
+std::string ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE = configDirectory() + COUNTRY_MASKS_DEFAULT_NAME;
+std::string ZelNumberingConfig::SPECIFIC_FORMAT_FILE = configDirectory() + SPECIFIC_FORMAT_NAME;
+std::string ZelNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE = configDirectory() + SPECIFIC_FORMAT_DEFAULT_NAME;
 
 ZelNumberingConfig* ZelNumberingConfig::getInstance()
 {
@@ -135,12 +130,12 @@ void ZelNumberingConfig::resetInstance()
 void ZelNumberingConfig::setConfigDirectory(std::string directory)
 {
 	configDirectory() = withTrailingSlash(std::move(directory));
-	DIALING_RULES_FILE = configPath(DIALING_RULES_NAME);
-	DIALING_RULES_DEFAULT_FILE = configPath(DIALING_RULES_DEFAULT_NAME);
-	COUNTRY_MASKS_FILE = configPath(COUNTRY_MASKS_NAME);
-	COUNTRY_MASKS_DEFAULT_FILE = configPath(COUNTRY_MASKS_DEFAULT_NAME);
-	SPECIFIC_FORMAT_FILE = configPath(SPECIFIC_FORMAT_NAME);
-	SPECIFIC_FORMAT_DEFAULT_FILE = configPath(SPECIFIC_FORMAT_DEFAULT_NAME);
+	DIALING_RULES_FILE = configDirectory() + DIALING_RULES_NAME;
+	DIALING_RULES_DEFAULT_FILE = configDirectory() + DIALING_RULES_DEFAULT_NAME;
+	COUNTRY_MASKS_FILE = configDirectory() + COUNTRY_MASKS_NAME;
+	COUNTRY_MASKS_DEFAULT_FILE = configDirectory() + COUNTRY_MASKS_DEFAULT_NAME;
+	SPECIFIC_FORMAT_FILE = configDirectory() + SPECIFIC_FORMAT_NAME;
+	SPECIFIC_FORMAT_DEFAULT_FILE = configDirectory() + SPECIFIC_FORMAT_DEFAULT_NAME;
 }
 
 std::string ZelNumberingConfig::getConfigDirectory()
