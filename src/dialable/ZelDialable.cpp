@@ -26,7 +26,8 @@ ZelDialable::~ZelDialable()
 std::string ZelDialable::makeInternationalDialableNumber(
 	std::string& countryNumber, std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule)
 {
-	return internationalNumber(std::string(), countryNumber, countryNumber, areaNatPfx, dest, rule);
+	return internationalNumber(
+		ZelNumberingConfig::getInstance(), std::string(), countryNumber, countryNumber, areaNatPfx, dest, rule);
 }
 
 std::string ZelDialable::makeLongDistDialableNumber(
@@ -66,7 +67,8 @@ std::string ZelDialable::extractOperatorPrefix(std::string /*number*/)
 	return std::string();
 }
 
-std::string ZelDialable::internationalNumber(const std::string& operatorCode,
+std::string ZelDialable::internationalNumber(ZelNumberingConfig* config,
+	const std::string& operatorCode,
 	const std::string& underE,
 	const std::string& countryNumber,
 	std::string& areaNatPfx,
@@ -80,7 +82,6 @@ std::string ZelDialable::internationalNumber(const std::string& operatorCode,
 	if (holds(internatRule, 'E')) result += underE;
 	if (holds(internatRule, 'F'))
 	{
-		ZelNumberingConfig* config = ZelNumberingConfig::getInstance();
 		ZelCountryRuleItem* destRule = config->getCountryRule(config->getCountryCodeFromNumber(countryNumber));
 		// A trunk prefix that stands in place of an area code is not dialled from abroad; the caller sees that too.
 		if (destRule)

@@ -74,9 +74,10 @@ protected:
 	}
 
 	/// The rule's international prefix and operatorCode, then underE (rule E), the area part (rule F) and dest.
-	/// An area part that is only the long-distance prefix of the country with countryNumber is dropped, also
-	/// from the caller's areaNatPfx.
-	static std::string internationalNumber(const std::string& operatorCode,
+	/// An area part that is only the long-distance prefix of the country with countryNumber in config is dropped,
+	/// also from the caller's areaNatPfx.
+	static std::string internationalNumber(ZelNumberingConfig* config,
+		const std::string& operatorCode,
 		const std::string& underE,
 		const std::string& countryNumber,
 		std::string& areaNatPfx,

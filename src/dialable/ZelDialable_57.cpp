@@ -21,6 +21,7 @@ ZelDialable_57::ZelDialable_57():
 {
 	NUMBERING_TRACE(logger, "ZelDialable_57()");
 	m_OperatorTree = new ZelAreaCodeTree();
+	m_Config = ZelNumberingConfig::getInstance();
 	loadOperators();
 }
 
@@ -71,7 +72,7 @@ std::string ZelDialable_57::makeInternationalDialableNumber(
 {
 	// Colombian exchanges take the subscriber number here where other countries take the country number; both
 	// it and the one appended last are dialled.
-	return internationalNumber(m_OperatorCode, dest, countryNumber, areaNatPfx, dest, rule);
+	return internationalNumber(m_Config, m_OperatorCode, dest, countryNumber, areaNatPfx, dest, rule);
 }
 
 } // namespace numbering

@@ -54,6 +54,7 @@ private:
 
 	std::string m_OperatorCode;
 	Poco::AutoPtr<ZelAreaCodeTree> m_OperatorTree;
+	ZelNumberingConfig* m_Config;
 };
 
 } // namespace numbering
