@@ -2,10 +2,24 @@
 
 #include "support/Text.h"
 
+#include "Poco/Ascii.h"
+#include "Poco/String.h"
+
 #include <algorithm>
 
 namespace numbering {
 namespace detail {
+
+void trimNumber(std::string& number)
+{
+	Poco::trimInPlace(number);
+	if (isCanonical(number))
+	{
+		const auto kept =
+			std::find_if_not(number.begin() + 1, number.end(), [](char c) { return Poco::Ascii::isSpace(c); });
+		number.erase(number.begin() + 1, kept);
+	}
+}
 
 bool isAllDigits(const std::string& text)
 {

@@ -1,0 +1,103 @@
+// CanonicalNumber.h
+// Where the country, the area and the rest of a number written "+C (A) rest" lie.
+
+#ifndef Numbering_CanonicalNumber_INCLUDED
+#define Numbering_CanonicalNumber_INCLUDED
+
+#include <string>
+
+namespace numbering {
+namespace detail {
+
+/// A view of a number written "+C (A) rest": it finds once where the country, the area and the rest lie and
+/// copies a part only when asked for it. It refers to its text, which must outlive it unchanged.
+///
+/// The facade's operations read a number that is not well laid out (a bracket missing, blanks, letters, empty
+/// parts) each in its own way, and hosts rely on every one of these readings; hence three readings, made by the
+/// three factories below. On a number in the layout that validNumber gives, all three find the same parts.
+class CanonicalNumber
+{
+public:
+	using Index = std::string::size_type;
+
+	/// The reading by runs of digits, which validNumber lays out: the country is the run of digits at index 1
+	/// (empty when no digit stands there), the area the next run of digits, and the rest begins at the next
+	/// digit after it. text must not be empty.
+	static CanonicalNumber byRuns(const std::string& text);
+
+	/// The reading of makeDialableNumber: as byRuns, but only the first bound characters are read, the country
+	/// is the first run of digits after index 0, and there is an area run only when text holds both "(" and ")".
+	/// text must not be empty.
+	static CanonicalNumber forDialling(const std::string& text, Index bound);
+
+	/// The reading by the layout's characters, which patterns use: the country runs from index 1 to the first
+	/// blank, the area from the first "(" to the next ")", and the rest begins two characters after the first
+	/// ")". The country and area are there only when hasBrackets(); see requireParts.
+	static CanonicalNumber byBrackets(const std::string& text);
+
+	/// The country's characters.
+	std::string country() const;
+
+	/// The area's characters; "" for a dialling reading of a number without brackets.
+	std::string area() const;
+
+	/// The digits of the rest, every other character dropped.
+	std::string restDigits() const;
+
+	/// Where the rest begins; by brackets this may lie beyond the end of the text.
+	Index restBegin() const;
+
+	/// By runs: true when a character follows the area run, which closes the area even when no digit follows.
+	bool hasClosedArea() const;
+
+	/// By runs: true when the text reads "+C (A) rest" already, without a blank in rest, so that laidOut would
+	/// give it back unchanged. Call only when hasClosedArea().
+	bool isLaidOut() const;
+
+	/// By runs: "+C (A) rest" with the blanks of rest dropped (rest may be empty) when the area is closed,
+	/// "+C A" when the area runs to the end, "+C" without an area.
+	std::string laidOut() const;
+
+	/// By runs: the country when a character follows it, else "": "+" and digits alone have no country of their
+	/// own, the configuration must split them.
+	std::string separatedCountry() const;
+
+	/// By brackets: true when the text holds both "(" and ")".
+	bool hasBrackets() const;
+
+	/// By brackets: throws std::out_of_range, as reading past the end of the text does, when the text has no
+	/// blank after index 0 or no ")" after the first "(". Call only when hasBrackets().
+	void requireParts() const;
+
+	/// By brackets: the text between "+" and the first "(", trimmed: the key of the country's default pattern.
+	std::string countryBeforeBrackets() const;
+
+	/// By brackets: the text between the first "(" and the first ")", or "" unless both exist, the "(" stands
+	/// after index 0 and the ")" after it with at least one character between them.
+	std::string bracketedArea() const;
+
+	/// By brackets: the digits after the first ")" or, without one, after the first blank; "" without either.
+	std::string digitsAfterArea() const;
+
+private:
+	explicit CanonicalNumber(const std::string& text);
+
+	/// Reads the run of digits at countryBegin as the country, the next run as the area when withArea, and
+	/// finds the rest's first digit after them.
+	void readRuns(Index countryBegin, bool withArea);
+
+	const std::string& m_Text;
+	Index m_End;
+	Index m_CountryBegin = 1;
+	Index m_CountryEnd = std::string::npos;
+	Index m_AreaBegin = std::string::npos;
+	Index m_AreaEnd = std::string::npos;
+	Index m_RestBegin = std::string::npos;
+	Index m_Open = std::string::npos;
+	Index m_Close = std::string::npos;
+};
+
+} // namespace detail
+} // namespace numbering
+
+#endif // Numbering_CanonicalNumber_INCLUDED
