@@ -2,15 +2,12 @@
 
 #include "numbering/Logger.h"
 
-#include <map>
 #include <sstream>
 
 Logger* Logger::getLogger(std::string name)
 {
-	// The table lives only for this call, so every call hands out a new Logger; callers keep the one they get.
-	std::map<std::string, Logger*> loggers;
-	loggers[name] = new Logger(name);
-	return loggers[name];
+	// Every call hands out a new Logger, never deleted; callers keep the one they get.
+	return new Logger(std::move(name));
 }
 
 Logger::Logger(std::string name):

@@ -48,33 +48,20 @@ public:
 		// The area is read with the country, from the one reading of a "+" number; its look-up is traced here.
 		NUMBERING_TRACE(m_Logger, "extractAreaCodeOrNatPrefix('" + m_Validated + "')");
 		if (m_Validated.empty()) throw std::invalid_argument("'strPhoneNumber' parameter can not be null");
-		if (isCanonicalInput())
-		{
+		if (detail::isCanonical(m_Validated))
 			classifyCanonical();
-		}
 		else if (!classifyDialled(number))
-		{
 			return std::move(m_Working);
-		}
 		if (m_CountryCode.empty())
-		{
 			m_Working = m_Validated;
-		}
 		else
-		{
 			convert();
-		}
 		if (detail::isCanonical(m_Working)) m_Working = m_Rules.formatCanonicalNumber(std::move(m_Working), pattern);
 		// The conversion is used once: its result is handed over, not copied.
 		return std::move(m_Working);
 	}
 
 private:
-	bool isCanonicalInput() const
-	{
-		return detail::isCanonical(m_Validated);
-	}
-
 	void useTemporaryItem(const std::string& countryCode)
 	{
 		m_Temporary.emplace(countryCode, "", 0, "", 0, "");
@@ -122,13 +109,9 @@ private:
 		const std::string intl = rule->getInternatPfx();
 		if (!m_Rules.isPrefixNeeded(m_Item, number)) return true;
 		if (Poco::startsWith(number, intl))
-		{
 			classifyInternational(number, rule, intl);
-		}
 		else
-		{
 			classifyNational(number, rule);
-		}
 		return true;
 	}
 
@@ -207,30 +190,24 @@ private:
 	bool isToConvert()
 	{
 		if (!m_WorkItem->isLocalNumber(m_Working) && !m_WorkItem->isExceptionNumber(m_Working)) return true;
-		return Poco::startsWith(m_Working, m_WorkItem->getExtPrefix()) || isCanonicalInput();
+		return Poco::startsWith(m_Working, m_WorkItem->getExtPrefix()) || detail::isCanonical(m_Validated);
 	}
 
 	void convert()
 	{
 		ZelCNP* cnp = ZelCNPManager::getInstance()->getCNP(m_CountryCode);
 		if (!isToConvert())
-		{
 			NUMBERING_TRACE(m_Logger, "Nothing to do for" + m_Working);
-		}
 		else if (cnp == nullptr)
-		{
 			convertWithoutPlan();
-		}
 		else
-		{
 			convertWithPlan(cnp);
-		}
 	}
 
 	void convertWithoutPlan()
 	{
 		NUMBERING_TRACE(m_Logger, "No special format defined for country " + m_CountryCode);
-		if (isCanonicalInput())
+		if (detail::isCanonical(m_Validated))
 		{
 			m_Working = m_Rules.generateDefaultCanonicalNumber(m_Working, m_CountryCode, m_AreaOrNatPrefix);
 		}

@@ -57,15 +57,33 @@ std::string dialWithExternalPrefix(
 	if (digits.empty()) return "";
 	// A number that came with the prefix, or in "+" form, is dialled with it even where it is not needed.
 	if (rules.isPrefixNeeded(item, digits) || (alreadyPrefixed && !Poco::startsWith(digits, extPrefix)))
-	{
 		return extPrefix + digits;
-	}
 	return digits;
 }
 
-std::string dialContext(const std::string& number, ZelDialRulesItem* item)
+/// addExternalPrefix (convertDialled false) and makePhoneNumber (true, which also trims number) with their
+/// checks: a marked number comes back as it is, and any failure gives its error line and "".
+std::string dialGuarded(ZelNumberingRules& rules,
+	Logger* logger,
+	const char* operation,
+	ZelDialRulesItem* item,
+	std::string& number,
+	bool convertDialled)
 {
-	return " - PhoneNumber: '" + number + "'" + "\n  DialRules: " + detail::describe(item);
+	try
+	{
+		detail::checkArguments(item, number);
+		if (detail::isMarked(number)) return number;
+		NUMBERING_TRACE(logger, std::string(operation) + " with : " + number);
+		if (convertDialled) detail::trimNumber(number);
+		return dialWithExternalPrefix(rules, logger, item, number, convertDialled);
+	}
+	catch (...)
+	{
+		const std::string context = " - PhoneNumber: '" + number + "'" + "\n  DialRules: " + detail::describe(item);
+		logger->error(detail::errorLine(operation, context));
+	}
+	return "";
 }
 
 /// The first of the site's area codes, or "".
@@ -122,35 +140,12 @@ std::string ZelNumberingRules::makeDialableNumber(ZelDialRulesItem* item, std::s
 
 std::string ZelNumberingRules::addExternalPrefix(ZelDialRulesItem* item, std::string number)
 {
-	try
-	{
-		detail::checkArguments(item, number);
-		if (detail::isMarked(number)) return number;
-		NUMBERING_TRACE(logger, "addExternalPrefix with : " + number);
-		return dialWithExternalPrefix(*this, logger, item, number, false);
-	}
-	catch (...)
-	{
-		logger->error(detail::errorLine("addExternalPrefix", dialContext(number, item)));
-	}
-	return "";
+	return dialGuarded(*this, logger, "addExternalPrefix", item, number, false);
 }
 
 std::string ZelNumberingRules::makePhoneNumber(ZelDialRulesItem* item, std::string number)
 {
-	try
-	{
-		detail::checkArguments(item, number);
-		if (detail::isMarked(number)) return number;
-		NUMBERING_TRACE(logger, "makePhoneNumber with : " + number);
-		detail::trimNumber(number);
-		return dialWithExternalPrefix(*this, logger, item, number, true);
-	}
-	catch (...)
-	{
-		logger->error(detail::errorLine("makePhoneNumber", dialContext(number, item)));
-	}
-	return "";
+	return dialGuarded(*this, logger, "makePhoneNumber", item, number, true);
 }
 
 } // namespace numbering

@@ -101,13 +101,9 @@ std::string ZelNumberingRules::generateDefaultCanonicalNumber(
 		}
 		// Without an area the trunk prefix stands in the parentheses, as in "+44 (0) 20...".
 		if (!areaCode.empty())
-		{
 			removePrefix(number, areaCode);
-		}
 		else
-		{
 			areaCode = trunk;
-		}
 		const std::string country = "+" + rule->getCountryNumber();
 		result = areaCode.empty() ? country + " " + number : country + " (" + areaCode + ") " + number;
 	}

@@ -12,30 +12,22 @@
 namespace numbering {
 namespace detail {
 
-namespace {
-
-/// Characters that the layout "+C (A) rest" may add to a number.
-const std::string::size_type LAYOUT_EXTRA = 4;
-
-} // namespace
-
-CanonicalNumber::CanonicalNumber(const std::string& text):
+CanonicalNumber::CanonicalNumber(const std::string& text, Index end):
 	m_Text(text),
-	m_End(text.size())
+	m_End(end)
 {
 }
 
 CanonicalNumber CanonicalNumber::byRuns(const std::string& text)
 {
-	CanonicalNumber number(text);
+	CanonicalNumber number(text, text.size());
 	number.readRuns(1, true);
 	return number;
 }
 
 CanonicalNumber CanonicalNumber::forDialling(const std::string& text, Index bound)
 {
-	CanonicalNumber number(text);
-	number.m_End = std::min(text.size(), bound);
+	CanonicalNumber number(text, std::min(text.size(), bound));
 	const bool bracketed = text.find('(') != std::string::npos && text.find(')') != std::string::npos;
 	number.readRuns(skipNonDigits(text, 1, number.m_End), bracketed);
 	return number;
@@ -43,7 +35,7 @@ CanonicalNumber CanonicalNumber::forDialling(const std::string& text, Index boun
 
 CanonicalNumber CanonicalNumber::byBrackets(const std::string& text)
 {
-	CanonicalNumber number(text);
+	CanonicalNumber number(text, text.size());
 	number.m_Open = text.find('(');
 	number.m_Close = text.find(')');
 	if (number.hasBrackets())
@@ -101,7 +93,8 @@ bool CanonicalNumber::isLaidOut() const
 std::string CanonicalNumber::laidOut() const
 {
 	std::string built;
-	built.reserve(m_End + LAYOUT_EXTRA);
+	// Room for the blanks and parentheses that the layout may add.
+	built.reserve(m_End + 4);
 	built.append(m_Text, 0, m_CountryEnd);
 	if (hasClosedArea())
 	{

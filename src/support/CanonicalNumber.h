@@ -80,7 +80,8 @@ public:
 	std::string digitsAfterArea() const;
 
 private:
-	explicit CanonicalNumber(const std::string& text);
+	/// A view of text that reads [0, end); the factories find the parts.
+	CanonicalNumber(const std::string& text, Index end);
 
 	/// Reads the run of digits at countryBegin as the country, the next run as the area when withArea, and
 	/// finds the rest's first digit after them.

@@ -62,9 +62,7 @@ ZelDialable* requireDialable(const std::string& countryNumber)
 {
 	ZelDialable* dialable = ZelDialableManager::getInstance()->getDialable(countryNumber);
 	if (dialable == nullptr)
-	{
 		throw Poco::NullPointerException("no dialable maker for country number '" + countryNumber + "'");
-	}
 	return dialable;
 }
 
