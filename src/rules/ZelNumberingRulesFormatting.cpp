@@ -114,7 +114,7 @@ std::string ZelNumberingRules::generateDefaultCanonicalNumber(
 std::string ZelNumberingRules::formatCanonicalNumber(std::string canonicalNumber, std::string pattern)
 {
 	NUMBERING_TRACE(logger, "formatCanonicalNumber('" + canonicalNumber + "', '" + pattern + "')");
-	const CanonicalNumber parts = CanonicalNumber::byBrackets(canonicalNumber);
+	const CanonicalNumber parts = CanonicalNumber::forPattern(canonicalNumber);
 	if (!canLayOut(logger, canonicalNumber, parts)) return canonicalNumber;
 	try
 	{
@@ -136,7 +136,7 @@ std::string ZelNumberingRules::formatCanonicalNumber(std::string canonicalNumber
 std::string ZelNumberingRules::formatToGSMCanonicalNumber(std::string canonicalNumber)
 {
 	NUMBERING_TRACE(logger, "formatToGSMCanonicalNumber('" + canonicalNumber + "'");
-	const CanonicalNumber parts = CanonicalNumber::byBrackets(canonicalNumber);
+	const CanonicalNumber parts = CanonicalNumber::forPattern(canonicalNumber);
 	if (!canLayOut(logger, canonicalNumber, parts)) return canonicalNumber;
 	// Service codes marked "***" pass through as they are.
 	if (detail::isMarked(canonicalNumber)) return canonicalNumber;

@@ -38,6 +38,12 @@ CanonicalNumber CanonicalNumber::byBrackets(const std::string& text)
 	CanonicalNumber number(text, text.size());
 	number.m_Open = text.find('(');
 	number.m_Close = text.find(')');
+	return number;
+}
+
+CanonicalNumber CanonicalNumber::forPattern(const std::string& text)
+{
+	CanonicalNumber number = byBrackets(text);
 	if (number.hasBrackets())
 	{
 		number.m_CountryEnd = text.find(' ', 1);
@@ -58,29 +64,9 @@ void CanonicalNumber::readRuns(Index countryBegin, bool withArea)
 	m_RestBegin = skipNonDigits(m_Text, m_AreaEnd, m_End);
 }
 
-std::string CanonicalNumber::country() const
-{
-	return m_Text.substr(m_CountryBegin, m_CountryEnd - m_CountryBegin);
-}
-
-std::string CanonicalNumber::area() const
-{
-	return m_Text.substr(m_AreaBegin, m_AreaEnd - m_AreaBegin);
-}
-
 std::string CanonicalNumber::restDigits() const
 {
 	return digitsOf(m_Text, m_RestBegin, m_End);
-}
-
-CanonicalNumber::Index CanonicalNumber::restBegin() const
-{
-	return m_RestBegin;
-}
-
-bool CanonicalNumber::hasClosedArea() const
-{
-	return m_AreaEnd < m_End;
 }
 
 bool CanonicalNumber::isLaidOut() const
@@ -106,16 +92,6 @@ std::string CanonicalNumber::laidOut() const
 		built.append(" ").append(m_Text, m_AreaBegin, m_AreaEnd - m_AreaBegin);
 	}
 	return built;
-}
-
-std::string CanonicalNumber::separatedCountry() const
-{
-	return m_CountryEnd < m_End ? country() : std::string();
-}
-
-bool CanonicalNumber::hasBrackets() const
-{
-	return m_Open != std::string::npos && m_Close != std::string::npos;
 }
 
 void CanonicalNumber::requireParts() const

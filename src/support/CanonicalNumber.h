@@ -13,8 +13,8 @@ namespace detail {
 /// copies a part only when asked for it. It refers to its text, which must outlive it unchanged.
 ///
 /// The facade's operations read a number that is not well laid out (a bracket missing, blanks, letters, empty
-/// parts) each in its own way, and hosts rely on every one of these readings; hence three readings, made by the
-/// three factories below. On a number in the layout that validNumber gives, all three find the same parts.
+/// parts) each in its own way, and hosts rely on every one of these readings; hence the factories below. On a
+/// number in the layout that validNumber gives, they all find the same parts.
 class CanonicalNumber
 {
 public:
@@ -30,25 +30,40 @@ public:
 	/// text must not be empty.
 	static CanonicalNumber forDialling(const std::string& text, Index bound);
 
-	/// The reading by the layout's characters, which patterns use: the country runs from index 1 to the first
-	/// blank, the area from the first "(" to the next ")", and the rest begins two characters after the first
-	/// ")". The country and area are there only when hasBrackets(); see requireParts.
+	/// The reading by brackets, which the extract operations use: it finds the first "(" and the first ")".
 	static CanonicalNumber byBrackets(const std::string& text);
 
+	/// The reading of patterns: by brackets, and when both are there, the country runs from index 1 to the first
+	/// blank, the area from the first "(" to the next ")", and the rest begins two characters after the first
+	/// ")"; see requireParts.
+	static CanonicalNumber forPattern(const std::string& text);
+
 	/// The country's characters.
-	std::string country() const;
+	std::string country() const
+	{
+		return m_Text.substr(m_CountryBegin, m_CountryEnd - m_CountryBegin);
+	}
 
 	/// The area's characters; "" for a dialling reading of a number without brackets.
-	std::string area() const;
+	std::string area() const
+	{
+		return m_Text.substr(m_AreaBegin, m_AreaEnd - m_AreaBegin);
+	}
 
 	/// The digits of the rest, every other character dropped.
 	std::string restDigits() const;
 
-	/// Where the rest begins; by brackets this may lie beyond the end of the text.
-	Index restBegin() const;
+	/// Where the rest begins; for a pattern this may lie beyond the end of the text.
+	Index restBegin() const
+	{
+		return m_RestBegin;
+	}
 
 	/// By runs: true when a character follows the area run, which closes the area even when no digit follows.
-	bool hasClosedArea() const;
+	bool hasClosedArea() const
+	{
+		return m_AreaEnd < m_End;
+	}
 
 	/// By runs: true when the text reads "+C (A) rest" already, without a blank in rest, so that laidOut would
 	/// give it back unchanged. Call only when hasClosedArea().
@@ -60,16 +75,22 @@ public:
 
 	/// By runs: the country when a character follows it, else "": "+" and digits alone have no country of their
 	/// own, the configuration must split them.
-	std::string separatedCountry() const;
+	std::string separatedCountry() const
+	{
+		return m_CountryEnd < m_End ? country() : std::string();
+	}
 
 	/// By brackets: true when the text holds both "(" and ")".
-	bool hasBrackets() const;
+	bool hasBrackets() const
+	{
+		return m_Open != std::string::npos && m_Close != std::string::npos;
+	}
 
-	/// By brackets: throws std::out_of_range, as reading past the end of the text does, when the text has no
+	/// For a pattern: throws std::out_of_range, as reading past the end of the text does, when the text has no
 	/// blank after index 0 or no ")" after the first "(". Call only when hasBrackets().
 	void requireParts() const;
 
-	/// By brackets: the text between "+" and the first "(", trimmed: the key of the country's default pattern.
+	/// For a pattern: the text between "+" and the first "(", trimmed: the key of the country's default pattern.
 	std::string countryBeforeBrackets() const;
 
 	/// By brackets: the text between the first "(" and the first ")", or "" unless both exist, the "(" stands
