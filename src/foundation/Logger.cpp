@@ -2,7 +2,7 @@
 
 #include "numbering/Logger.h"
 
-#include <sstream>
+#include <utility>
 
 Logger* Logger::getLogger(std::string name)
 {
@@ -39,8 +39,6 @@ const std::string& Logger::getName() const
 
 void Logger::write(const char* level, const std::string& message)
 {
-	std::ostringstream line;
-	line << level << m_Name << " - " << message;
 	// The level word inside the text is the only distinction the sink gets: every line goes out at level 1.
-	FlogWrite(line.str().c_str(), 1);
+	FlogWrite((level + m_Name + " - " + message).c_str(), 1);
 }
