@@ -5,6 +5,8 @@
 #include "numbering/ZelNumberingConfig.h"
 #include "numbering/ZelUnsupportedCountryException.h"
 
+#include "support/Trace.h"
+
 #include "Poco/StringTokenizer.h"
 
 #include <sstream>
@@ -20,9 +22,9 @@ int notNegative(int length)
 	return length < 0 ? 0 : length;
 }
 
-void traceTest(Logger* logger, const char* test, const std::string& number, bool result)
+std::string testTrace(const char* test, const std::string& number, bool result)
 {
-	logger->debug(std::string(test) + "('" + number + "')=" + (result ? "true" : "false"));
+	return std::string(test) + "('" + number + "')=" + (result ? "true" : "false");
 }
 
 } // namespace
@@ -136,10 +138,7 @@ std::string ZelDialRulesItem::getExceptNbBegin()
 bool ZelDialRulesItem::isLocalNumber(std::string number)
 {
 	const bool local = m_LocalNbLength > 0 && number.size() < static_cast<std::size_t>(m_LocalNbLength);
-	if (Logger::m_Traces)
-	{
-		traceTest(logger, "isLocalNumber", number, local);
-	}
+	NUMBERING_TRACE(logger, testTrace("isLocalNumber", number, local));
 	return local;
 }
 
@@ -148,10 +147,7 @@ bool ZelDialRulesItem::isExceptionNumber(std::string number)
 	// Only the beginning decides: a number of the exception length that lacks it is no exception either.
 	const bool exception =
 		!number.empty() && !m_ExceptNbBegin.empty() && number.compare(0, m_ExceptNbBegin.size(), m_ExceptNbBegin) == 0;
-	if (Logger::m_Traces)
-	{
-		traceTest(logger, "isExceptionNumber", number, exception);
-	}
+	NUMBERING_TRACE(logger, testTrace("isExceptionNumber", number, exception));
 	return exception;
 }
 

@@ -2,9 +2,9 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
-#include "config/ZelPropertyFile.h"
+#include "support/PropertyFile.h"
+#include "support/Trace.h"
 
-#include "Poco/Exception.h"
 #include "Poco/String.h"
 #include "Poco/StringTokenizer.h"
 #include "Poco/Util/PropertyFileConfiguration.h"
@@ -16,8 +16,6 @@
 namespace numbering {
 
 namespace {
-
-using Properties = Poco::AutoPtr<Poco::Util::PropertyFileConfiguration>;
 
 const std::size_t DIALING_RULE_FIELDS = 7;
 const std::size_t MAX_MASK_KEY_LENGTH = 3;
@@ -32,15 +30,6 @@ const char* const COUNTRY_MASKS_DEFAULT_NAME = "qap_cnp_mask_default.properties"
 const char* const SPECIFIC_FORMAT_NAME = "specific_format_activation.properties";
 const char* const SPECIFIC_FORMAT_DEFAULT_NAME = "specific_format_activation_default.properties";
 
-/// One of the three files: the site file, its fallback, and the texts its loader logs.
-struct PropertySource
-{
-	const std::string& file;
-	const std::string& defaultFile;
-	const std::string& missingText;
-	const char* errorPrefix;
-};
-
 std::string withTrailingSlash(std::string directory)
 {
 	if (directory.empty() || directory.back() != '/') directory += '/';
@@ -54,34 +43,20 @@ std::string& configDirectory()
 	return directory;
 }
 
-std::string configPath(const char* name)
-{
-	return configDirectory() + name;
-}
-
-Properties openWithFallback(Logger* logger, const PropertySource& source)
-{
-	try
-	{
-		return ZelPropertyFile::open(source.file);
-	}
-	catch (Poco::FileNotFoundException&)
-	{
-	}
-	catch (Poco::OpenFileException&)
-	{
-	}
-	logger->info(source.missingText);
-	return ZelPropertyFile::open(source.defaultFile);
-}
-
-/// Opens the source and hands each top-level key to visit; logs any failure and returns false then.
+/// Opens file, or defaultFile after writing missingText, and hands each top-level key to visit. Traces loader + "()"
+/// first; logs any failure as the error of loader and returns false then.
 template <typename Visit>
-bool walkProperties(Logger* logger, const PropertySource& source, Visit visit)
+bool walkProperties(Logger* logger,
+	const char* loader,
+	const std::string& file,
+	const std::string& defaultFile,
+	const std::string& missingText,
+	Visit visit)
 {
+	NUMBERING_TRACE(logger, std::string(loader) + "()");
 	try
 	{
-		Properties properties = openWithFallback(logger, source);
+		const auto properties = detail::openPropertyFile(file, defaultFile, logger, missingText, missingText);
 		Poco::Util::AbstractConfiguration::Keys keys;
 		properties->keys(keys);
 		for (const std::string& key : keys)
@@ -90,7 +65,7 @@ bool walkProperties(Logger* logger, const PropertySource& source, Visit visit)
 	}
 	catch (std::exception& exception)
 	{
-		logger->error(source.errorPrefix + std::string(exception.what()));
+		logger->error("ZelNumberingConfig::" + std::string(loader) + " Exception : " + exception.what());
 		return false;
 	}
 }
@@ -133,12 +108,12 @@ std::string lookUp(const Map& map, const std::string& key)
 ZelNumberingConfig* ZelNumberingConfig::instance = nullptr;
 Logger* ZelNumberingConfig::logger = Logger::getLogger(typeid(ZelNumberingConfig).name());
 
-std::string ZelNumberingConfig::DIALING_RULES_FILE = configPath(DIALING_RULES_NAME);
-std::string ZelNumberingConfig::DIALING_RULES_DEFAULT_FILE = configPath(DIALING_RULES_DEFAULT_NAME);
-std::string ZelNumberingConfig::COUNTRY_MASKS_FILE = configPath(COUNTRY_MASKS_NAME);
-std::string ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE = configPath(COUNTRY_MASKS_DEFAULT_NAME);
-std::string ZelNumberingConfig::SPECIFIC_FORMAT_FILE = configPath(SPECIFIC_FORMAT_NAME);
-std::string ZelNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE = configPath(SPECIFIC_FORMAT_DEFAULT_NAME);
+std::string ZelNumberingConfig::DIALING_RULES_FILE = configDirectory() + DIALING_RULES_NAME;
+std::string ZelNumberingConfig::DIALING_RULES_DEFAULT_FILE = configDirectory() + DIALING_RULES_DEFAULT_NAME;
+std::string ZelNumberingConfig::COUNTRY_MASKS_FILE = configDirectory() + COUNTRY_MASKS_NAME;
+std::string ZelNumberingConfig::COUNTRY_MASKS_DEFAULT_FILE = configDirectory() + COUNTRY_MASKS_DEFAULT_NAME;
+std::string ZelNumberingConfig::SPECIFIC_FORMAT_FILE = configDirectory() + SPECIFIC_FORMAT_NAME;
+std::string ZelNumberingConfig::SPECIFIC_FORMAT_DEFAULT_FILE = configDirectory() + SPECIFIC_FORMAT_DEFAULT_NAME;
 
 ZelNumberingConfig* ZelNumberingConfig::getInstance()
 {
@@ -155,12 +130,12 @@ void ZelNumberingConfig::resetInstance()
 void ZelNumberingConfig::setConfigDirectory(std::string directory)
 {
 	configDirectory() = withTrailingSlash(std::move(directory));
-	DIALING_RULES_FILE = configPath(DIALING_RULES_NAME);
-	DIALING_RULES_DEFAULT_FILE = configPath(DIALING_RULES_DEFAULT_NAME);
-	COUNTRY_MASKS_FILE = configPath(COUNTRY_MASKS_NAME);
-	COUNTRY_MASKS_DEFAULT_FILE = configPath(COUNTRY_MASKS_DEFAULT_NAME);
-	SPECIFIC_FORMAT_FILE = configPath(SPECIFIC_FORMAT_NAME);
-	SPECIFIC_FORMAT_DEFAULT_FILE = configPath(SPECIFIC_FORMAT_DEFAULT_NAME);
+	DIALING_RULES_FILE = configDirectory() + DIALING_RULES_NAME;
+	DIALING_RULES_DEFAULT_FILE = configDirectory() + DIALING_RULES_DEFAULT_NAME;
+	COUNTRY_MASKS_FILE = configDirectory() + COUNTRY_MASKS_NAME;
+	COUNTRY_MASKS_DEFAULT_FILE = configDirectory() + COUNTRY_MASKS_DEFAULT_NAME;
+	SPECIFIC_FORMAT_FILE = configDirectory() + SPECIFIC_FORMAT_NAME;
+	SPECIFIC_FORMAT_DEFAULT_FILE = configDirectory() + SPECIFIC_FORMAT_DEFAULT_NAME;
 }
 
 std::string ZelNumberingConfig::getConfigDirectory()
@@ -170,10 +145,7 @@ std::string ZelNumberingConfig::getConfigDirectory()
 
 ZelNumberingConfig::ZelNumberingConfig()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("ZelNumberingConfig()");
-	}
+	NUMBERING_TRACE(logger, "ZelNumberingConfig()");
 	if (loadDialingRules()) createListCountryDisplay();
 	loadCountryMasks();
 	loadSpecificFormatActivation();
@@ -181,22 +153,13 @@ ZelNumberingConfig::ZelNumberingConfig()
 
 ZelNumberingConfig::~ZelNumberingConfig()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("~ZelNumberingConfig()");
-	}
+	NUMBERING_TRACE(logger, "~ZelNumberingConfig()");
 }
 
 bool ZelNumberingConfig::loadDialingRules()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("loadDialingRules()");
-	}
-	const PropertySource source{DIALING_RULES_FILE, DIALING_RULES_DEFAULT_FILE, NO_DIALING_RULES_FILE,
-		"ZelNumberingConfig::loadDialingRules Exception : "};
-	return walkProperties(
-		logger, source, [this](Poco::Util::AbstractConfiguration& properties, const std::string& key) {
+	return walkProperties(logger, "loadDialingRules", DIALING_RULES_FILE, DIALING_RULES_DEFAULT_FILE,
+		NO_DIALING_RULES_FILE, [this](const Poco::Util::AbstractConfiguration& properties, const std::string& key) {
 			// Fields: number, international prefix and rule, long-distance rule, local rule, name, principal flag.
 			Poco::StringTokenizer tokens(properties.getString(key), ":");
 			std::string fields[DIALING_RULE_FIELDS];
@@ -212,16 +175,11 @@ bool ZelNumberingConfig::loadDialingRules()
 
 bool ZelNumberingConfig::loadCountryMasks()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("loadCountryMasks()");
-	}
-	// The masks file has no notice of its own: a missing one is reported with the dialing-rules text.
-	const PropertySource source{COUNTRY_MASKS_FILE, COUNTRY_MASKS_DEFAULT_FILE, NO_DIALING_RULES_FILE,
-		"ZelNumberingConfig::loadCountryMasks Exception : "};
 	std::size_t masks = 0;
-	const bool loaded = walkProperties(
-		logger, source, [this, &masks](Poco::Util::AbstractConfiguration& properties, const std::string& key) {
+	// The masks file has no notice of its own: a missing one is reported with the dialing-rules text.
+	const bool loaded = walkProperties(logger, "loadCountryMasks", COUNTRY_MASKS_FILE, COUNTRY_MASKS_DEFAULT_FILE,
+		NO_DIALING_RULES_FILE,
+		[this, &masks](const Poco::Util::AbstractConfiguration& properties, const std::string& key) {
 			const std::string maskKey = maskKeyOf(key);
 			if (maskKey.empty() || maskKey.size() > MAX_MASK_KEY_LENGTH) return;
 			const std::string pattern = properties.getString(key);
@@ -229,71 +187,45 @@ bool ZelNumberingConfig::loadCountryMasks()
 			insertFirst(m_CountryMaskMap, maskKey, pattern);
 			++masks;
 		});
-	if (loaded && Logger::m_Traces)
-	{
-		// The count drops that many leading characters instead of being printed; the line has always read so.
-		logger->debug(COUNTRY_MASKS_LOADED.substr(std::min(masks, COUNTRY_MASKS_LOADED.size())));
-	}
+	// The count drops that many leading characters instead of being printed; the line has always read so.
+	if (loaded) NUMBERING_TRACE(logger, COUNTRY_MASKS_LOADED.substr(std::min(masks, COUNTRY_MASKS_LOADED.size())));
 	return loaded;
 }
 
 bool ZelNumberingConfig::loadSpecificFormatActivation()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("loadSpecificFormatActivation()");
-	}
-	static const std::string noActivationFile = "No specific format activation configuration file";
-	const PropertySource source{SPECIFIC_FORMAT_FILE, SPECIFIC_FORMAT_DEFAULT_FILE, noActivationFile,
-		"ZelNumberingConfig::loadSpecificFormatActivation Exception : "};
-	return walkProperties(
-		logger, source, [this](Poco::Util::AbstractConfiguration& properties, const std::string& key) {
+	return walkProperties(logger, "loadSpecificFormatActivation", SPECIFIC_FORMAT_FILE, SPECIFIC_FORMAT_DEFAULT_FILE,
+		"No specific format activation configuration file",
+		[this](const Poco::Util::AbstractConfiguration& properties, const std::string& key) {
 			if (key.compare(0, ACTIVATION_KEY_PREFIX.size(), ACTIVATION_KEY_PREFIX) != 0) return;
 			const std::string number = key.substr(ACTIVATION_KEY_PREFIX.size());
 			if (number.empty() || number.size() > static_cast<std::size_t>(MAX_COUNTRY_NUMBER_LENGTH)) return;
 			const std::string countryCode = getCountryCodeFromNumber(number);
 			if (countryCode.empty())
 			{
-				if (Logger::m_Traces)
-				{
-					logger->debug("Invalid property 'cnp_" + number + "'");
-				}
+				NUMBERING_TRACE(logger, "Invalid property 'cnp_" + number + "'");
 				return;
 			}
 			const std::string value = properties.getString(key);
 			if (value.empty()) return;
 			const std::string lowered = Poco::toLower(value);
+			const bool active = lowered == "true" || lowered == "on" || lowered == "1";
+			if (!active && lowered != "false" && lowered != "off" && lowered != "0")
+			{
+				NUMBERING_TRACE(logger, "Invalid value for property 'cnp_' : " + value);
+				return;
+			}
+			NUMBERING_TRACE(logger,
+				(active ? "Activating" : "Desactivating") + (" specific format for " + getCountryName(countryCode)));
 			// The flag always goes under 0 and the first one stays: lookups by real country numbers miss it and
 			// report the format as active. Hosts rely on that.
-			if (lowered == "true" || lowered == "on" || lowered == "1")
-			{
-				if (Logger::m_Traces)
-				{
-					logger->debug("Activating specific format for " + getCountryName(countryCode));
-				}
-				insertFirst(m_SpecificFormatMap, 0, true);
-			}
-			else if (lowered == "false" || lowered == "off" || lowered == "0")
-			{
-				if (Logger::m_Traces)
-				{
-					logger->debug("Desactivating specific format for " + getCountryName(countryCode));
-				}
-				insertFirst(m_SpecificFormatMap, 0, false);
-			}
-			else if (Logger::m_Traces)
-			{
-				logger->debug("Invalid value for property 'cnp_' : " + value);
-			}
+			insertFirst(m_SpecificFormatMap, 0, active);
 		});
 }
 
 void ZelNumberingConfig::createListCountryDisplay()
 {
-	if (Logger::m_Traces)
-	{
-		logger->debug("createListCountryDisplay()");
-	}
+	NUMBERING_TRACE(logger, "createListCountryDisplay()");
 	for (const auto& entry : m_CountryNameMap)
 		m_CountryList.push_back(entry.first);
 	std::sort(m_CountryList.begin(), m_CountryList.end());

@@ -2,29 +2,11 @@
 
 #include "dialable/ZelDialable.h"
 
-#include "numbering/ZelNumberingConfig.h"
+#include "support/Trace.h"
 
 #include <typeinfo>
 
 namespace numbering {
-
-namespace {
-
-/// Rules are read only for single capital letters, wherever they stand.
-bool holds(const std::string& rule, char letter)
-{
-	return rule.find(letter) != std::string::npos;
-}
-
-/// An empty number with room for the longest number the library builds.
-std::string reservedNumber()
-{
-	std::string number;
-	number.reserve(ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
-	return number;
-}
-
-} // namespace
 
 int ZelDialable::_count = 0;
 
@@ -44,24 +26,8 @@ ZelDialable::~ZelDialable()
 std::string ZelDialable::makeInternationalDialableNumber(
 	std::string& countryNumber, std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule)
 {
-	std::string result = reservedNumber();
-	result.append(rule->getInternatPfx());
-	const std::string internatRule = rule->getInternatRule();
-	if (holds(internatRule, 'E')) result.append(countryNumber);
-	if (holds(internatRule, 'F'))
-	{
-		ZelNumberingConfig* config = ZelNumberingConfig::getInstance();
-		ZelCountryRuleItem* destRule = config->getCountryRule(config->getCountryCodeFromNumber(countryNumber));
-		// A trunk prefix that stands in place of an area code is not dialled from abroad; the caller sees that too.
-		if (destRule)
-		{
-			const std::string trunk = destRule->getLongDistPrefix();
-			if (!trunk.empty() && areaNatPfx == trunk) areaNatPfx.clear();
-		}
-		result.append(areaNatPfx);
-	}
-	result.append(dest);
-	return result;
+	return internationalNumber(
+		ZelNumberingConfig::getInstance(), std::string(), countryNumber, countryNumber, areaNatPfx, dest, rule);
 }
 
 std::string ZelDialable::makeLongDistDialableNumber(
@@ -72,10 +38,7 @@ std::string ZelDialable::makeLongDistDialableNumber(
 	const std::string longDistRule = rule->getLongDistRule();
 	if (holds(longDistRule, 'F')) result.insert(0, areaNatPfx);
 	if (holds(longDistRule, 'F') || holds(longDistRule, 'I')) mergePrefix(result, rule->getLongDistPrefix());
-	if (Logger::m_Traces)
-	{
-		logger->debug(longDistTrace("makeLongDistDialableNumber() AreaNatPfx: '", areaNatPfx, dest, result));
-	}
+	NUMBERING_TRACE(logger, longDistTrace("", areaNatPfx, dest, result));
 	return result;
 }
 
@@ -104,20 +67,46 @@ std::string ZelDialable::extractOperatorPrefix(std::string /*number*/)
 	return std::string();
 }
 
+std::string ZelDialable::internationalNumber(ZelNumberingConfig* config,
+	const std::string& operatorCode,
+	const std::string& underE,
+	const std::string& countryNumber,
+	std::string& areaNatPfx,
+	const std::string& dest,
+	ZelCountryRuleItem* rule)
+{
+	std::string result = reservedNumber();
+	result += rule->getInternatPfx();
+	result += operatorCode;
+	const std::string internatRule = rule->getInternatRule();
+	if (holds(internatRule, 'E')) result += underE;
+	if (holds(internatRule, 'F'))
+	{
+		ZelCountryRuleItem* destRule = config->getCountryRule(config->getCountryCodeFromNumber(countryNumber));
+		// A trunk prefix that stands in place of an area code is not dialled from abroad; the caller sees that too.
+		if (destRule)
+		{
+			const std::string trunk = destRule->getLongDistPrefix();
+			if (!trunk.empty() && areaNatPfx == trunk) areaNatPfx.clear();
+		}
+		result += areaNatPfx;
+	}
+	result += dest;
+	return result;
+}
+
 void ZelDialable::mergePrefix(std::string& number, const std::string& prefix)
 {
 	// Position by position and never looking back: a number that shares only its first characters with the
 	// prefix gets just the missing ones. Dialled numbers depend on exactly this, so it is not a prefix test.
 	for (std::string::size_type i = 0; i < prefix.size(); ++i)
-	{
 		if (i == number.size() || number[i] != prefix[i]) number.insert(i, 1, prefix[i]);
-	}
 }
 
 std::string ZelDialable::longDistTrace(
-	const std::string& label, const std::string& areaNatPfx, const std::string& dest, const std::string& result)
+	const char* tag, const std::string& areaNatPfx, const std::string& dest, const std::string& result)
 {
-	return label + areaNatPfx + "' dest: " + dest + " result: " + result;
+	return tag + ("makeLongDistDialableNumber() AreaNatPfx: '" + areaNatPfx) + "' dest: " + dest + " result: " + result;
 }
 
 } // namespace numbering

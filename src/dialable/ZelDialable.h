@@ -7,6 +7,7 @@
 #include "numbering/Logger.h"
 #include "numbering/ZelCountryRuleItem.h"
 #include "numbering/ZelDialRulesItem.h"
+#include "numbering/ZelNumberingConfig.h"
 
 #include <string>
 
@@ -49,15 +50,49 @@ public:
 	ZelDialable& operator=(const ZelDialable&) = delete;
 
 protected:
+	/// An empty number with room for the longest number the library builds.
+	static std::string reservedNumber()
+	{
+		std::string number;
+		number.reserve(ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+		return number;
+	}
+
+	/// areaNatPfx followed by dest, in a reservedNumber().
+	static std::string areaAndDest(const std::string& areaNatPfx, const std::string& dest)
+	{
+		std::string number = reservedNumber();
+		number += areaNatPfx;
+		number += dest;
+		return number;
+	}
+
+	/// True when rule holds letter: rules are read only for single capital letters, wherever they stand.
+	static bool holds(const std::string& rule, char letter)
+	{
+		return rule.find(letter) != std::string::npos;
+	}
+
+	/// The rule's international prefix and operatorCode, then underE (rule E), the area part (rule F) and dest.
+	/// An area part that is only the long-distance prefix of the country with countryNumber in config is dropped,
+	/// also from the caller's areaNatPfx.
+	static std::string internationalNumber(ZelNumberingConfig* config,
+		const std::string& operatorCode,
+		const std::string& underE,
+		const std::string& countryNumber,
+		std::string& areaNatPfx,
+		const std::string& dest,
+		ZelCountryRuleItem* rule);
+
 	/// Makes number begin with prefix, one character at a time: wherever number differs from prefix (or has
 	/// ended), the prefix character is inserted; it never looks back. "0" into "123" gives "0123", "00" into
 	/// "0612" gives "00612", "00" into "00612" leaves it alone.
 	static void mergePrefix(std::string& number, const std::string& prefix);
 
-	/// The closing debug text of a long-distance maker: label + areaNatPfx + "' dest: " + dest + " result: " +
-	/// result, where label ends with "AreaNatPfx: '".
+	/// The closing debug text of a long-distance maker: tag ("61-AU " or "") + "makeLongDistDialableNumber()
+	/// AreaNatPfx: '" + areaNatPfx + "' dest: " + dest + " result: " + result.
 	static std::string longDistTrace(
-		const std::string& label, const std::string& areaNatPfx, const std::string& dest, const std::string& result);
+		const char* tag, const std::string& areaNatPfx, const std::string& dest, const std::string& result);
 
 private:
 	static Logger* logger;

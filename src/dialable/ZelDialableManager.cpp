@@ -3,6 +3,7 @@
 #include "dialable/ZelDialableManager.h"
 
 #include "dialable/ZelDialableFactory.h"
+#include "support/Trace.h"
 
 #include <typeinfo>
 
@@ -14,7 +15,7 @@ Logger* ZelDialableManager::logger = Logger::getLogger(typeid(ZelDialableManager
 
 ZelDialableManager* ZelDialableManager::getInstance()
 {
-	if (Logger::m_Traces) logger->debug("getInstance()");
+	NUMBERING_TRACE(logger, "getInstance()");
 	if (!instance) instance = new ZelDialableManager();
 	return instance;
 }
@@ -25,13 +26,9 @@ void ZelDialableManager::resetInstance()
 	instance = nullptr;
 }
 
-ZelDialableManager::ZelDialableManager() = default;
-
-ZelDialableManager::~ZelDialableManager() = default;
-
 ZelDialable* ZelDialableManager::getDialable(std::string countryNumber)
 {
-	if (Logger::m_Traces) logger->debug("getDialable('" + countryNumber + "')");
+	NUMBERING_TRACE(logger, "getDialable('" + countryNumber + "')");
 	auto it = m_Cache.find(countryNumber);
 	if (it != m_Cache.end()) return it->second.get();
 	return loadDialableClass(countryNumber);
@@ -41,10 +38,10 @@ ZelDialable* ZelDialableManager::loadDialableClass(std::string countryNumber)
 {
 	if (countryNumber.empty())
 	{
-		if (Logger::m_Traces) logger->debug("loadDialableClass('strCountryNumber=NULL')");
+		NUMBERING_TRACE(logger, "loadDialableClass('strCountryNumber=NULL')");
 		return nullptr;
 	}
-	if (Logger::m_Traces) logger->debug("loadDialableClass('" + countryNumber + "')");
+	NUMBERING_TRACE(logger, "loadDialableClass('" + countryNumber + "')");
 	// Adopts the factory's reference, which goes when this function returns: the cache keeps its own.
 	Poco::AutoPtr<ZelDialable> maker(ZelDialableFactory::CreateInstance(countryNumber));
 	return m_Cache.insert(std::make_pair(countryNumber, maker)).first->second.get();

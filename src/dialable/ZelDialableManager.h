@@ -25,10 +25,10 @@ public:
 	/// Deletes the manager, releasing every cached maker.
 	static void resetInstance();
 
-	ZelDialableManager();
+	ZelDialableManager() = default;
 
 	// The order of the virtual functions below is part of the manager interface; keep it.
-	virtual ~ZelDialableManager();
+	virtual ~ZelDialableManager() = default;
 
 	/// The maker for a country number ("33"), or null for "". Borrowed: valid until resetInstance().
 	virtual ZelDialable* getDialable(std::string countryNumber);

@@ -2,18 +2,12 @@
 
 #include "dialable/ZelDialable_52.h"
 
-#include "numbering/ZelNumberingConfig.h"
-
 #include "plans/ZelCNP_52.h"
+#include "support/Trace.h"
 
 #include <typeinfo>
 
 namespace numbering {
-namespace {
-
-const std::string LONG_DIST_LABEL = "52-MX makeLongDistDialableNumber() AreaNatPfx: '";
-
-} // namespace
 
 const std::string ZelDialable_52::PREFIX_MOBILE = ZelCNP_52::PREFIX_MOBILE;
 const std::string ZelDialable_52::PREFIX_MOBILE_LOCAL = ZelCNP_52::PREFIX_MOBILE_LOCAL;
@@ -24,8 +18,7 @@ Logger* ZelDialable_52::logger = Logger::getLogger(typeid(ZelDialable_52).name()
 std::string ZelDialable_52::makeLongDistDialableNumber(
 	std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule, ZelDialRulesItem* site)
 {
-	std::string result;
-	result.reserve(ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
+	std::string result = reservedNumber();
 	if (areaNatPfx.compare(0, PREFIX_MOBILE.size(), PREFIX_MOBILE) == 0)
 	{
 		const std::string area = areaNatPfx.substr(PREFIX_MOBILE.size());
@@ -38,10 +31,7 @@ std::string ZelDialable_52::makeLongDistDialableNumber(
 		result += areaNatPfx;
 	}
 	result += dest;
-	if (Logger::m_Traces)
-	{
-		logger->debug(longDistTrace(LONG_DIST_LABEL, areaNatPfx, dest, result));
-	}
+	NUMBERING_TRACE(logger, longDistTrace("52-MX ", areaNatPfx, dest, result));
 	return result;
 }
 

@@ -2,20 +2,13 @@
 
 #include "dialable/ZelDialable_54.h"
 
-#include "numbering/ZelNumberingConfig.h"
-
 #include "plans/ZelCNPManager.h"
 #include "plans/ZelCNP_54.h"
+#include "support/Trace.h"
 
 #include <typeinfo>
 
 namespace numbering {
-
-namespace {
-
-const std::string ARGENTINA = "AR";
-
-} // namespace
 
 Logger* ZelDialable_54::logger = Logger::getLogger(typeid(ZelDialable_54).name());
 
@@ -34,19 +27,13 @@ std::string ZelDialable_54::makeLocalDialableNumber(
 std::string ZelDialable_54::MakeLocalOrLongDistDialableNumber(
 	std::string& areaNatPfx, std::string& dest, ZelCountryRuleItem* rule, ZelDialRulesItem* site)
 {
-	std::string result;
-	result.reserve(ZelNumberingConfig::MAX_PHONE_NUMBER_LENGTH);
-	result += areaNatPfx;
-	result += dest;
+	std::string result = areaAndDest(areaNatPfx, dest);
 	// A plan of another class, or none, cannot split the number either.
-	ZelCNP_54* plan = dynamic_cast<ZelCNP_54*>(ZelCNPManager::getInstance()->getCNP(ARGENTINA));
-	const std::unique_ptr<StrippedNumber> stripped = plan != nullptr ? plan->StripNbr(result, site) : nullptr;
+	ZelCNP_54* plan = dynamic_cast<ZelCNP_54*>(ZelCNPManager::getInstance()->getCNP("AR"));
+	const auto stripped = plan != nullptr ? plan->StripNbr(result, site) : nullptr;
 	if (!stripped)
 	{
-		if (Logger::m_Traces)
-		{
-			logger->debug("makeLocalOrLongDistDialableNumber(Argentina): not possible to strip the number");
-		}
+		NUMBERING_TRACE(logger, "makeLocalOrLongDistDialableNumber(Argentina): not possible to strip the number");
 		return result;
 	}
 	const std::string area = stripped->getAreaCode();

@@ -4,15 +4,10 @@
 #ifndef Numbering_ZelDialable_57_INCLUDED
 #define Numbering_ZelDialable_57_INCLUDED
 
-#include "numbering/Logger.h"
-#include "numbering/ZelNumberingConfig.h"
-
 #include "dialable/ZelDialable.h"
 #include "trees/ZelAreaCodeTree.h"
 
 #include "Poco/AutoPtr.h"
-
-#include <string>
 
 namespace numbering {
 

@@ -4,11 +4,7 @@
 #ifndef Numbering_ZelDialable_7_INCLUDED
 #define Numbering_ZelDialable_7_INCLUDED
 
-#include "numbering/Logger.h"
-
 #include "dialable/ZelDialable.h"
-
-#include <string>
 
 namespace numbering {
 

@@ -2,15 +2,12 @@
 
 #include "numbering/Logger.h"
 
-#include <map>
-#include <sstream>
+#include <utility>
 
 Logger* Logger::getLogger(std::string name)
 {
-	// The table lives only for this call, so every call hands out a new Logger; callers keep the one they get.
-	std::map<std::string, Logger*> loggers;
-	loggers[name] = new Logger(name);
-	return loggers[name];
+	// Every call hands out a new Logger, never deleted; callers keep the one they get.
+	return new Logger(std::move(name));
 }
 
 Logger::Logger(std::string name):
@@ -42,8 +39,6 @@ const std::string& Logger::getName() const
 
 void Logger::write(const char* level, const std::string& message)
 {
-	std::ostringstream line;
-	line << level << m_Name << " - " << message;
 	// The level word inside the text is the only distinction the sink gets: every line goes out at level 1.
-	FlogWrite(line.str().c_str(), 1);
+	FlogWrite((level + m_Name + " - " + message).c_str(), 1);
 }

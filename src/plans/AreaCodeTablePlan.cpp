@@ -4,7 +4,8 @@
 
 #include "numbering/ZelNumberingConfig.h"
 
-#include "config/ZelPropertyFile.h"
+#include "support/PropertyFile.h"
+#include "support/Text.h"
 #include "support/Trace.h"
 
 #include "Poco/Exception.h"
@@ -13,48 +14,6 @@
 #include <exception>
 
 namespace numbering {
-
-namespace {
-
-/// Highest index of an "AC_%04d" key.
-const int LAST_AREA_CODE_INDEX = 9998;
-
-/// Writes index into the four digits that end key: "AC_0000" becomes "AC_0042" for 42. Thousands of keys are
-/// read per table, and rewriting four characters costs a fraction of formatting each key anew.
-void setKeyIndex(std::string& key, int index)
-{
-	const std::string::size_type digits = 4;
-	for (std::string::size_type i = key.size(); i-- > key.size() - digits; index /= 10)
-		key[i] = static_cast<char>('0' + index % 10);
-}
-
-std::string digitsOf(const std::string& value)
-{
-	std::string digits;
-	for (char c : value)
-	{
-		if (c >= '0' && c <= '9') digits += c;
-	}
-	return digits;
-}
-
-/// The property file at path, or null when it cannot be opened. Other failures are thrown.
-Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> openTable(const std::string& path)
-{
-	try
-	{
-		return ZelPropertyFile::open(path);
-	}
-	catch (const Poco::FileNotFoundException&)
-	{
-	}
-	catch (const Poco::OpenFileException&)
-	{
-	}
-	return nullptr;
-}
-
-} // namespace
 
 AreaCodeTablePlan::AreaCodeTablePlan(Logger* logger,
 	const std::string& callingCode,
@@ -71,16 +30,16 @@ AreaCodeTablePlan::AreaCodeTablePlan(Logger* logger,
 	try
 	{
 		const std::string base = ZelNumberingConfig::getConfigDirectory() + "r7731cnp_" + callingCode;
-		Poco::AutoPtr<Poco::Util::PropertyFileConfiguration> table = openTable(base + ".properties");
-		if (table.isNull())
-		{
-			if (!noCountryFileText.empty()) m_Logger->info(noCountryFileText);
-			table = openTable(base + "_default.properties");
-		}
-		if (table.isNull())
-			m_Logger->info(noDefaultFileText);
-		else
-			readTable(*table);
+		readTable(*detail::openPropertyFile(
+			base + ".properties", base + "_default.properties", m_Logger, noCountryFileText, noCountryFileText));
+	}
+	catch (const Poco::FileNotFoundException&)
+	{
+		m_Logger->info(noDefaultFileText);
+	}
+	catch (const Poco::OpenFileException&)
+	{
+		m_Logger->info(noDefaultFileText);
 	}
 	catch (const std::exception& e)
 	{
@@ -98,27 +57,21 @@ AreaCodeTablePlan::~AreaCodeTablePlan() = default;
 void AreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& table)
 {
 	if (table.has("Translate")) m_Translate = table.getString("Translate") == "1";
-	std::string key = "AC_0000";
-	for (int index = 0; index <= LAST_AREA_CODE_INDEX; ++index)
+	try
 	{
-		setKeyIndex(key, index);
-		std::string value;
-		try
-		{
-			value = table.getString(key);
-		}
-		catch (const Poco::NotFoundException&)
-		{
-			// The first missing key ends the table; asking has() first would search every key twice.
-			break;
-		}
-		const std::string areaCode = digitsOf(value);
-		// An entry without any digit is skipped; the entries after it are still read.
-		if (areaCode.empty()) continue;
-		if (static_cast<int>(areaCode.size()) > m_MaxAreaCodeLength)
-			m_MaxAreaCodeLength = static_cast<int>(areaCode.size());
-		m_AreaCodeTree->insert(areaCode);
-		++m_AreaCodeCount;
+		detail::forEachNumberedValue(table, "AC_", [this](const std::string& value) {
+			const std::string areaCode = detail::digitsOf(value);
+			// An entry without any digit is skipped; the entries after it are still read.
+			if (areaCode.empty()) return;
+			if (static_cast<int>(areaCode.size()) > m_MaxAreaCodeLength)
+				m_MaxAreaCodeLength = static_cast<int>(areaCode.size());
+			m_AreaCodeTree->insert(areaCode);
+			++m_AreaCodeCount;
+		});
+	}
+	catch (const Poco::NotFoundException&)
+	{
+		// The first missing key ends the table.
 	}
 }
 

@@ -4,19 +4,14 @@
 
 #include "dialable/ZelDialableManager.h"
 #include "plans/ZelCNPManager.h"
-
-#include "Poco/Ascii.h"
+#include "support/Text.h"
+#include "support/Trace.h"
 
 #include <typeinfo>
 
 namespace numbering {
 
 namespace {
-
-bool isIn(const std::string& characters, char c)
-{
-	return characters.find(c) != std::string::npos;
-}
 
 /// The memory of the instance that resetInstance ended, given back only once its successor exists.
 void* retiredInstance = nullptr;
@@ -46,7 +41,7 @@ ZelNumberingRules* ZelNumberingRules::getInstance()
 
 void ZelNumberingRules::resetInstance()
 {
-	if (Logger::m_Traces) logger->debug("Releasing resources");
+	NUMBERING_TRACE(logger, "Releasing resources");
 	ZelCNPManager::resetInstance();
 	ZelDialableManager::resetInstance();
 	ZelNumberingConfig::resetInstance();
@@ -63,7 +58,7 @@ void ZelNumberingRules::resetInstance()
 
 ZelNumberingRules::ZelNumberingRules()
 {
-	if (Logger::m_Traces) logger->debug("ZelNumberingRules()");
+	NUMBERING_TRACE(logger, "ZelNumberingRules()");
 	if (!config) config = ZelNumberingConfig::getInstance();
 }
 
@@ -98,11 +93,11 @@ std::string ZelNumberingRules::checkPhoneNumber(std::string number)
 	for (std::string::size_type i = 0; i < result.size(); ++i)
 	{
 		const char c = result[i];
-		if (Poco::Ascii::isDigit(c) || isIn(TELEPHONENUMBER_SPECIAL_CHARACTER, c))
+		if (detail::isDigit(c) || detail::isOneOf(c, TELEPHONENUMBER_SPECIAL_CHARACTER))
 		{
 			result[kept++] = c;
 		}
-		else if (!isIn(TELEPHONENUMBER_FORMAT_CHARACTER, c))
+		else if (!detail::isOneOf(c, TELEPHONENUMBER_FORMAT_CHARACTER))
 		{
 			kept = 0;
 			break;

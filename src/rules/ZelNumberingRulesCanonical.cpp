@@ -2,9 +2,12 @@
 
 #include "numbering/ZelNumberingRules.h"
 
+#include "dialable/ZelDialable.h"
 #include "plans/ZelCNPManager.h"
-#include "rules/ZelRulesSupport.h"
+#include "support/CanonicalNumber.h"
+#include "support/Guards.h"
 #include "support/Text.h"
+#include "support/Trace.h"
 
 #include "Poco/String.h"
 
@@ -15,11 +18,6 @@
 namespace numbering {
 
 namespace {
-
-bool isOneOf(char c, const std::string& characters)
-{
-	return characters.find(c) != std::string::npos;
-}
 
 /// One makeCanonicalNumber call after its argument checks: classifies the number, brings it into the national
 /// form of its country and hands it to that country's plan. Owns the temporary site record made for a
@@ -47,46 +45,23 @@ public:
 	std::string run(const std::string& number, const std::string& pattern)
 	{
 		m_Validated = m_Rules.validNumber(number);
-		m_AreaOrNatPrefix = m_Rules.extractAreaCodeOrNatPrefixFromCanonicalNumber(m_Validated);
-		if (m_Validated.empty())
-		{
-			throw std::invalid_argument("'strPhoneNumber' parameter can not be null");
-		}
-		if (isCanonicalInput())
-		{
+		// The area is read with the country, from the one reading of a "+" number; its look-up is traced here.
+		NUMBERING_TRACE(m_Logger, "extractAreaCodeOrNatPrefix('" + m_Validated + "')");
+		if (m_Validated.empty()) throw std::invalid_argument("'strPhoneNumber' parameter can not be null");
+		if (detail::isCanonical(m_Validated))
 			classifyCanonical();
-		}
 		else if (!classifyDialled(number))
-		{
 			return std::move(m_Working);
-		}
 		if (m_CountryCode.empty())
-		{
 			m_Working = m_Validated;
-		}
 		else
-		{
 			convert();
-		}
-		if (ZelRulesSupport::isCanonical(m_Working))
-		{
-			m_Working = m_Rules.formatCanonicalNumber(std::move(m_Working), pattern);
-		}
+		if (detail::isCanonical(m_Working)) m_Working = m_Rules.formatCanonicalNumber(std::move(m_Working), pattern);
 		// The conversion is used once: its result is handed over, not copied.
 		return std::move(m_Working);
 	}
 
 private:
-	bool isCanonicalInput() const
-	{
-		return ZelRulesSupport::isCanonical(m_Validated);
-	}
-
-	void debug(const std::string& message)
-	{
-		m_Logger->debug(message);
-	}
-
 	void useTemporaryItem(const std::string& countryCode)
 	{
 		m_Temporary.emplace(countryCode, "", 0, "", 0, "");
@@ -96,12 +71,12 @@ private:
 	/// A "+" number: its country's long-distance form, or nothing when the country number is unknown.
 	void classifyCanonical()
 	{
-		std::string countryNumber = m_Rules.extractCountryNumberFromCanonicalNumber(m_Validated);
+		// validNumber put the area run between the parentheses, so the runs give the area the brackets hold.
+		const detail::CanonicalNumber runs = detail::CanonicalNumber::byRuns(m_Validated);
+		NUMBERING_TRACE(m_Logger, "extractCountryNumber('" + m_Validated + "')");
+		std::string countryNumber = runs.separatedCountry();
 		const bool fromLayout = !countryNumber.empty();
-		if (!fromLayout)
-		{
-			countryNumber = m_Config->extractCountryNumber(m_Validated.substr(1));
-		}
+		if (!fromLayout) countryNumber = m_Config->extractCountryNumber(m_Validated.substr(1));
 		m_CountryCode = m_Config->getCountryCodeFromNumber(countryNumber);
 		if (m_CountryCode.empty() && fromLayout)
 		{
@@ -111,16 +86,14 @@ private:
 		}
 		if (m_CountryCode.empty())
 		{
-			if (Logger::m_Traces)
-			{
-				debug("No country code found for country number '" + countryNumber + "'");
-			}
+			NUMBERING_TRACE(m_Logger, "No country code found for country number '" + countryNumber + "'");
 			return;
 		}
+		if (runs.hasClosedArea()) m_AreaOrNatPrefix = runs.area();
 		std::string digits = detail::digitsOf(m_Validated, countryNumber.size() + 1, m_Validated.size());
 		useTemporaryItem(m_CountryCode);
-		ZelCountryRuleItem* rule = ZelRulesSupport::requireCountryRule(m_Config, m_CountryCode);
-		ZelDialable* dialable = ZelRulesSupport::requireDialable(countryNumber);
+		ZelCountryRuleItem* rule = detail::requireCountryRule(m_Config, m_CountryCode);
+		ZelDialable* dialable = detail::requireDialable(countryNumber);
 		// The collected digits carry the whole national number, so no area part is handed over.
 		std::string area;
 		m_Working = dialable->makeLongDistDialableNumber(area, digits, rule, m_WorkItem);
@@ -130,25 +103,15 @@ private:
 	/// A dialled number: false for a service code, whose digits and keypad characters are then the result.
 	bool classifyDialled(const std::string& number)
 	{
-		if (collectDialled())
-		{
-			return false;
-		}
+		if (collectDialled()) return false;
 		m_CountryCode = m_Item->getCountryId();
-		ZelCountryRuleItem* rule = ZelRulesSupport::requireCountryRule(m_Config, m_CountryCode);
+		ZelCountryRuleItem* rule = detail::requireCountryRule(m_Config, m_CountryCode);
 		const std::string intl = rule->getInternatPfx();
-		if (!m_Rules.isPrefixNeeded(m_Item, number))
-		{
-			return true;
-		}
+		if (!m_Rules.isPrefixNeeded(m_Item, number)) return true;
 		if (Poco::startsWith(number, intl))
-		{
 			classifyInternational(number, rule, intl);
-		}
 		else
-		{
 			classifyNational(number, rule);
-		}
 		return true;
 	}
 
@@ -166,17 +129,14 @@ private:
 			{
 				m_Working += c;
 			}
-			else if (isOneOf(c, ZelNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER))
+			else if (detail::isOneOf(c, ZelNumberingRules::TELEPHONENUMBER_SPECIAL_CHARACTER))
 			{
 				m_Working += c;
 				serviceCode = true;
 			}
-			else if (!isOneOf(c, ZelNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER))
+			else if (!detail::isOneOf(c, ZelNumberingRules::TELEPHONENUMBER_FORMAT_CHARACTER))
 			{
-				if (Logger::m_Traces)
-				{
-					debug("MakeCanonical : wrong character in number : " + m_Validated);
-				}
+				NUMBERING_TRACE(m_Logger, "MakeCanonical : wrong character in number : " + m_Validated);
 				throw std::invalid_argument("'strPhoneNumber' parameter is not a phone number");
 			}
 		}
@@ -186,22 +146,17 @@ private:
 	void classifyInternational(const std::string& number, ZelCountryRuleItem* rule, const std::string& intl)
 	{
 		const std::string rest = m_Working.substr(intl.size());
-		const std::string op = ZelRulesSupport::requireDialable(rule->getCountryNumber())->extractOperatorPrefix(rest);
+		const std::string op = detail::requireDialable(rule->getCountryNumber())->extractOperatorPrefix(rest);
 		const std::string countryNumber = m_Config->extractCountryNumber(rest.substr(op.size()));
 		const std::string foreignCode = m_Config->getCountryCodeFromNumber(countryNumber);
 		if (foreignCode.empty())
 		{
-			if (Logger::m_Traces)
-			{
-				debug("International number detected but no country code was found '" + number + "'");
-			}
+			NUMBERING_TRACE(m_Logger, "International number detected but no country code was found '" + number + "'");
 			return;
 		}
-		if (Logger::m_Traces)
-		{
-			debug("International number detected : '" + m_Working + "' with CountryCode '" + foreignCode + "'");
-		}
-		const std::string ld = ZelRulesSupport::requireCountryRule(m_Config, foreignCode)->getLongDistPrefix();
+		NUMBERING_TRACE(
+			m_Logger, "International number detected : '" + m_Working + "' with CountryCode '" + foreignCode + "'");
+		const std::string ld = detail::requireCountryRule(m_Config, foreignCode)->getLongDistPrefix();
 		const std::string subscriber = rest.substr(op.size() + countryNumber.size());
 		// Calling one's own country from abroad is a national call, and the carrier chosen for it still applies.
 		m_Working = foreignCode == m_CountryCode ? ld + op + subscriber : ld + subscriber;
@@ -218,68 +173,48 @@ private:
 			const std::string localRule = rule->getLocalRule();
 			const std::string longDistRule = rule->getLongDistRule();
 			m_NationalKnown = (longDistRule.empty() && localRule == "G") || longDistRule == localRule;
-			if (m_NationalKnown && Logger::m_Traces)
+			if (m_NationalKnown)
 			{
-				debug("There is no difference between local and national phone number format'" + number + "'");
+				NUMBERING_TRACE(
+					m_Logger, "There is no difference between local and national phone number format'" + number + "'");
 			}
 		}
 		else
 		{
 			m_NationalKnown = Poco::startsWith(number, ld);
-			if (m_NationalKnown && Logger::m_Traces)
-			{
-				debug("National number detected '" + number + "'");
-			}
+			if (m_NationalKnown) NUMBERING_TRACE(m_Logger, "National number detected '" + number + "'");
 		}
 	}
 
 	/// Internal numbers stay as they are, unless they carry the external prefix or came in "+" form.
 	bool isToConvert()
 	{
-		if (!m_WorkItem->isLocalNumber(m_Working) && !m_WorkItem->isExceptionNumber(m_Working))
-		{
-			return true;
-		}
-		return Poco::startsWith(m_Working, m_WorkItem->getExtPrefix()) || isCanonicalInput();
+		if (!m_WorkItem->isLocalNumber(m_Working) && !m_WorkItem->isExceptionNumber(m_Working)) return true;
+		return Poco::startsWith(m_Working, m_WorkItem->getExtPrefix()) || detail::isCanonical(m_Validated);
 	}
 
 	void convert()
 	{
 		ZelCNP* cnp = ZelCNPManager::getInstance()->getCNP(m_CountryCode);
 		if (!isToConvert())
-		{
-			if (Logger::m_Traces)
-			{
-				debug("Nothing to do for" + m_Working);
-			}
-		}
+			NUMBERING_TRACE(m_Logger, "Nothing to do for" + m_Working);
 		else if (cnp == nullptr)
-		{
 			convertWithoutPlan();
-		}
 		else
-		{
 			convertWithPlan(cnp);
-		}
 	}
 
 	void convertWithoutPlan()
 	{
-		if (Logger::m_Traces)
-		{
-			debug("No special format defined for country " + m_CountryCode);
-		}
-		if (isCanonicalInput())
+		NUMBERING_TRACE(m_Logger, "No special format defined for country " + m_CountryCode);
+		if (detail::isCanonical(m_Validated))
 		{
 			m_Working = m_Rules.generateDefaultCanonicalNumber(m_Working, m_CountryCode, m_AreaOrNatPrefix);
 		}
 		else if (!m_NationalKnown)
 		{
-			if (Logger::m_Traces)
-			{
-				debug("Can't translate to a canonical phone number : we don't known if '" + m_Working +
-					  "' is a local or national phone number");
-			}
+			NUMBERING_TRACE(m_Logger, "Can't translate to a canonical phone number : we don't known if '" + m_Working +
+										  "' is a local or national phone number");
 		}
 		else
 		{
@@ -293,21 +228,12 @@ private:
 		if (cleaned.empty())
 		{
 			// The label says "Altered" although the number is kept as it is; host log filters look for it.
-			if (Logger::m_Traces)
-			{
-				debug("Altered Source Number : '" + m_Working + "'");
-			}
+			NUMBERING_TRACE(m_Logger, "Altered Source Number : '" + m_Working + "'");
 			return;
 		}
 		m_Working = std::move(cleaned);
-		if (ZelRulesSupport::isMarked(m_Working))
-		{
-			return;
-		}
-		if (Logger::m_Traces)
-		{
-			debug("Source number to be altered : '" + m_Working + "'");
-		}
+		if (detail::isMarked(m_Working)) return;
+		NUMBERING_TRACE(m_Logger, "Source number to be altered : '" + m_Working + "'");
 		m_Working = cnp->qap_Country_MakeCanonicalNumber(std::move(m_Working), m_WorkItem);
 	}
 
@@ -337,36 +263,24 @@ std::string ZelNumberingRules::makeCanonicalNumber(
 	CanonicalConversion conversion(*this, config, logger, item);
 	try
 	{
-		ZelRulesSupport::checkArguments(item, number);
-		if (ZelRulesSupport::isMarked(number))
-		{
-			return number;
-		}
-		if (Logger::m_Traces)
-		{
-			logger->debug("MakeCanonicalNumber with : " + number);
-		}
-		ZelRulesSupport::trimNumber(number);
+		detail::checkArguments(item, number);
+		if (detail::isMarked(number)) return number;
+		NUMBERING_TRACE(logger, "MakeCanonicalNumber with : " + number);
+		detail::trimNumber(number);
 		if (withExtPrefix)
 		{
 			// A site without external prefix gives nothing here, even for numbers that would need none.
 			const std::string extPrefix = item->getExtPrefix();
-			if (extPrefix.empty())
-			{
-				return "";
-			}
-			if (Poco::startsWith(number, extPrefix))
-			{
-				number.erase(0, extPrefix.size());
-			}
+			if (extPrefix.empty()) return "";
+			if (Poco::startsWith(number, extPrefix)) number.erase(0, extPrefix.size());
 		}
 		return conversion.run(number, pattern);
 	}
 	catch (...)
 	{
-		logger->error(ZelRulesSupport::errorLine(
-			"makeCanonicalNumber", " - PhoneNumber: '" + number + "', Pattern: '" + pattern + "'" +
-									   "\n  DialRules: " + ZelRulesSupport::describe(conversion.workItem())));
+		logger->error(
+			detail::errorLine("makeCanonicalNumber", " - PhoneNumber: '" + number + "', Pattern: '" + pattern + "'" +
+														 "\n  DialRules: " + detail::describe(conversion.workItem())));
 	}
 	return "";
 }

@@ -2,10 +2,24 @@
 
 #include "support/Text.h"
 
+#include "Poco/Ascii.h"
+#include "Poco/String.h"
+
 #include <algorithm>
 
 namespace numbering {
 namespace detail {
+
+void trimNumber(std::string& number)
+{
+	Poco::trimInPlace(number);
+	if (isCanonical(number))
+	{
+		const auto kept =
+			std::find_if_not(number.begin() + 1, number.end(), [](char c) { return Poco::Ascii::isSpace(c); });
+		number.erase(number.begin() + 1, kept);
+	}
+}
 
 bool isAllDigits(const std::string& text)
 {
@@ -15,18 +29,14 @@ bool isAllDigits(const std::string& text)
 std::string::size_type skipDigits(const std::string& text, std::string::size_type from, std::string::size_type end)
 {
 	while (from < end && isDigit(text[from]))
-	{
 		++from;
-	}
 	return from;
 }
 
 std::string::size_type skipNonDigits(const std::string& text, std::string::size_type from, std::string::size_type end)
 {
 	while (from < end && !isDigit(text[from]))
-	{
 		++from;
-	}
 	return from;
 }
 
@@ -36,12 +46,7 @@ std::string digitsOf(const std::string& text, std::string::size_type from, std::
 	std::string digits(end > from ? end - from : 0, '0');
 	std::string::size_type kept = 0;
 	for (; from < end; ++from)
-	{
-		if (isDigit(text[from]))
-		{
-			digits[kept++] = text[from];
-		}
-	}
+		if (isDigit(text[from])) digits[kept++] = text[from];
 	digits.resize(kept);
 	return digits;
 }

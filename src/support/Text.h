@@ -15,6 +15,28 @@ inline bool isDigit(char c)
 	return c >= '0' && c <= '9';
 }
 
+/// True when c is one of characters.
+inline bool isOneOf(char c, const std::string& characters)
+{
+	return characters.find(c) != std::string::npos;
+}
+
+/// True when number begins with "+": the only test the library makes for a canonical number.
+inline bool isCanonical(const std::string& number)
+{
+	return !number.empty() && number[0] == '+';
+}
+
+/// True when number holds the marker "***", which the conversions hand back untouched.
+inline bool isMarked(const std::string& number)
+{
+	return number.find("***") != std::string::npos;
+}
+
+/// Trims number in place at both ends and, when it begins with "+", also right after the "+":
+/// " + 33 1 " becomes "+33 1".
+void trimNumber(std::string& number);
+
 /// True when text is not empty and holds decimal digits only.
 bool isAllDigits(const std::string& text);
 

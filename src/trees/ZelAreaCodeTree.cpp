@@ -4,6 +4,9 @@
 
 #include "numbering/number_format_exception.h"
 
+#include "support/Text.h"
+#include "support/Trace.h"
+
 #include <iostream>
 #include <stdexcept>
 #include <typeinfo>
@@ -12,22 +15,13 @@ namespace numbering {
 
 namespace {
 
-bool isDigit(char c)
-{
-	return c >= '0' && c <= '9';
-}
-
 void checkDigits(const std::string& strDigits)
 {
 	if (strDigits.empty()) throw std::invalid_argument("strDigits empty");
-	for (std::string::size_type position = 0; position < strDigits.size(); ++position)
-	{
-		if (!isDigit(strDigits[position]))
-		{
-			throw number_format_exception("Unexpected digit:" + std::string(1, strDigits[position]) +
-										  " at position: " + std::to_string(position) + " in :" + strDigits);
-		}
-	}
+	const std::string::size_type position = detail::skipDigits(strDigits, 0, strDigits.size());
+	if (position == strDigits.size()) return;
+	throw number_format_exception("Unexpected digit:" + std::string(1, strDigits[position]) +
+								  " at position: " + std::to_string(position) + " in :" + strDigits);
 }
 
 } // namespace
@@ -39,7 +33,7 @@ ZelAreaCodeTree::ZelAreaCodeTree():
 	m_RefCount(1)
 {
 	++_count;
-	if (Logger::m_Traces) logger->debug("ZelAreaCodeTree()");
+	NUMBERING_TRACE(logger, "ZelAreaCodeTree()");
 }
 
 ZelAreaCodeTree::~ZelAreaCodeTree()
@@ -49,12 +43,12 @@ ZelAreaCodeTree::~ZelAreaCodeTree()
 
 bool ZelAreaCodeTree::insert(std::string strDigits)
 {
-	if (Logger::m_Traces) logger->debug("Inserting '" + strDigits + "' ...");
+	NUMBERING_TRACE(logger, "Inserting '" + strDigits + "' ...");
 	checkDigits(strDigits);
 	// A code that is already a path stays unknown, even when the path ends unmarked: the trie would not mark
 	// it, so it is refused here and the order of insertion decides.
 	const bool stored = m_Tree.isPresent(strDigits) != strDigits && m_Tree.insert(strDigits);
-	if (Logger::m_Traces) logger->debug((stored ? "Insert successful for '" : "Insert failed for '") + strDigits + "'");
+	NUMBERING_TRACE(logger, (stored ? "Insert successful for '" : "Insert failed for '") + strDigits + "'");
 	return stored;
 }
 

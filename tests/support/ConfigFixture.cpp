@@ -55,7 +55,7 @@ void ConfigFixture::resetLibrary()
 std::string ConfigFixture::areaCodeTable(const std::string& head, const std::vector<std::string>& codes)
 {
 	std::string text = head;
-	char key[16];
+	char key[32];
 	for (std::size_t index = 0; index < codes.size(); ++index)
 	{
 		std::snprintf(key, sizeof(key), "AC_%04zu=", index);
