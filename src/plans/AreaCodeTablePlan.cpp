@@ -25,7 +25,7 @@ AreaCodeTablePlan::AreaCodeTablePlan(Logger* logger,
 	m_AreaCodeCount(0),
 	m_Logger(logger)
 {
-	if (Logger::m_Traces) m_Logger->debug(className + "()");
+	NUMBERING_TRACE(m_Logger, className + "()");
 	m_AreaCodeTree = new ZelAreaCodeTree;
 	try
 	{
@@ -45,14 +45,9 @@ AreaCodeTablePlan::AreaCodeTablePlan(Logger* logger,
 	{
 		m_Logger->info(className + " : " + e.what());
 	}
-	if (Logger::m_Traces)
-	{
-		m_Logger->debug(className + " : " + " max length areacode : " + std::to_string(m_MaxAreaCodeLength) +
-						" nb area code : " + std::to_string(m_AreaCodeCount));
-	}
+	NUMBERING_TRACE(m_Logger, className + " : " + " max length areacode : " + std::to_string(m_MaxAreaCodeLength) +
+								  " nb area code : " + std::to_string(m_AreaCodeCount));
 }
-
-AreaCodeTablePlan::~AreaCodeTablePlan() = default;
 
 void AreaCodeTablePlan::readTable(const Poco::Util::AbstractConfiguration& table)
 {

@@ -36,8 +36,6 @@ protected:
 		const std::string& noCountryFileText,
 		const std::string& noDefaultFileText);
 
-	~AreaCodeTablePlan() override;
-
 	/// Takes the longest known area code off the front of rest and returns it; when rest begins with no known
 	/// code, rest stays whole and the site's own area code (rules->getAreaCode()) is returned. Traces which case
 	/// applied. Throws Poco::NullPointerException when the plan has no tree.
