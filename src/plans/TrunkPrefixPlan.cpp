@@ -105,9 +105,7 @@ bool TrunkPrefixPlan::keepCountry(const std::string& number, const std::string& 
 const TrunkPrefixPlan::Block* TrunkPrefixPlan::findBlock(const std::vector<Block>& blocks, const std::string& digits)
 {
 	for (const Block& block : blocks)
-	{
 		if (block.holds(digits)) return &block;
-	}
 	return nullptr;
 }
 
