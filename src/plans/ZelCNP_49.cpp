@@ -2,9 +2,13 @@
 
 #include "plans/ZelCNP_49.h"
 
+#include "numbering/ZelNumberingConfig.h"
+
 #include "support/Plans.h"
 
+#include <iostream>
 #include <typeinfo>
+#include <utility>
 
 namespace numbering {
 
@@ -40,6 +44,24 @@ bool ZelCNP_49::isBehindExtPrefix(const std::string& number, const std::string& 
 bool ZelCNP_49::keepCountry(const std::string&, const std::string&, std::string&)
 {
 	return false;
+}
+
+int ZelCNP_49::main(std::string* /*args*/)
+{
+	ZelDialRulesItem rules;
+	// Without a configuration that knows Germany the record keeps its default country.
+	if (ZelNumberingConfig::getInstance()->validCountryCode("DE")) rules.setCountryId("DE");
+	rules.setExtPrefix("1");
+	rules.setLocalNbLength(9);
+	rules.setAreaCode("7711");
+	Poco::AutoPtr<ZelCNP_49> plan(new ZelCNP_49());
+	std::cout << "Dialing rules : " << rules.ToString() << std::endl;
+	const std::pair<const char*, const char*> conversions[] = {{"Local 76985411 -> ", "76985411"},
+		{"Local + prefixe 176985411 -> ", "176985411"}, {"National 0771176985411 -> ", "0771176985411"},
+		{"National + prefixe 10771176985411 -> ", "10771176985411"}};
+	for (const auto& conversion : conversions)
+		std::cout << conversion.first << plan->qap_Country_MakeCanonicalNumber(conversion.second, &rules) << std::endl;
+	return 0;
 }
 
 } // namespace numbering

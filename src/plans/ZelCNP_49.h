@@ -18,6 +18,10 @@ class ZelCNP_49: public TrunkPrefixPlan
 public:
 	ZelCNP_49();
 
+	/// Self test, not called by the library: prints "Dialing rules : " and four labelled conversions to standard
+	/// output. Returns 0; args is ignored.
+	static int main(std::string* args);
+
 protected:
 	/// The site's area code stands for a code the table does not know.
 	bool readUnknownCode(const std::string& digits, const std::string& siteArea, std::string& result) override;
