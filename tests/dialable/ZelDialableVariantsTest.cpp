@@ -1,10 +1,13 @@
 // ZelDialableVariantsTest.cpp
 
+#include "numbering/ZelNumberingConfig.h"
+
 #include "dialable/ZelDialableFactory.h"
+#include "dialable/ZelDialable_54.h"
 #include "dialable/ZelDialable_57.h"
-#include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
 #include "support/RowName.h"
+#include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
 #include "Poco/Format.h"
@@ -13,6 +16,7 @@
 
 #include <filesystem>
 #include <stdexcept>
+#include <tuple>
 #include <vector>
 
 using numbering::test::LogCapture;
@@ -236,6 +240,38 @@ TEST_F(ZelDialableVariantsTest, RussianNumbersWithoutRussiaInTheConfigurationAre
 {
 	writeFile("dialingrules.properties", "FR = 33:00:EF:0F::France:P\n");
 	EXPECT_EQ("4951234567", dial("7", "", "495", "1234567"));
+}
+
+using ZelDialable54Test = test::TrunkPrefixPlansFixture;
+
+// The worked examples dial the other Argentine cases back through the facade; these only the maker sees.
+TEST_F(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
+{
+	configure(test::Setting::Sample);
+	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
+	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("AR");
+	// Site area, area or trunk prefix, subscriber, dialled number.
+	const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
+		{"11", "11", "43211234", "43211234"}, {"", "", "91123456789", "0111523456789"}};
+	for (const auto& [siteArea, areaNatPfx, subscriber, dialled] : rows)
+	{
+		const std::unique_ptr<ZelDialRulesItem> site = test::makeSite(test::SiteSetup{"AR", siteArea, "0"});
+		std::string area = areaNatPfx;
+		std::string dest = subscriber;
+		EXPECT_EQ(dialled, maker->makeLongDistDialableNumber(area, dest, rule, site.get())) << subscriber;
+		EXPECT_EQ(dialled, maker->makeLocalDialableNumber(area, dest, rule, site.get())) << subscriber;
+	}
+}
+
+TEST_F(ZelDialable54Test, DialsAreaAndNumberWithoutArgentinePlan)
+{
+	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
+	const std::unique_ptr<ZelDialRulesItem> site = test::makeSite(test::SiteSetup{"FR", "1", "0"});
+	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("FR");
+	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
+	std::string area = "911";
+	std::string dest = "23456789";
+	EXPECT_EQ("91123456789", maker->MakeLocalOrLongDistDialableNumber(area, dest, rule, site.get()));
 }
 
 } // namespace

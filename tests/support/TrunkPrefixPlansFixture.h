@@ -1,8 +1,9 @@
-// MorePlansFixture.h
-// Test fixture of the Dutch, Belgian, Austrian, British, Irish, Australian, Mexican and Argentine plans.
+// TrunkPrefixPlansFixture.h
+// Test fixture of the trunk-prefix plans: the Dutch, Belgian, Austrian, British, Irish, Australian, Mexican and
+// Argentine plans.
 
-#ifndef Numbering_MorePlansFixture_INCLUDED
-#define Numbering_MorePlansFixture_INCLUDED
+#ifndef Numbering_TrunkPrefixPlansFixture_INCLUDED
+#define Numbering_TrunkPrefixPlansFixture_INCLUDED
 
 #include "support/ConfigFixture.h"
 #include "support/PlanSites.h"
@@ -20,7 +21,7 @@ enum class Setting
 };
 
 /// Writes the dialing rules of the plan countries and Mexico, and the sample area-code tables.
-class MorePlansFixture: public ConfigFixture
+class TrunkPrefixPlansFixture: public ConfigFixture
 {
 protected:
 	/// The dialing rules and tables of setting.
@@ -30,4 +31,4 @@ protected:
 } // namespace test
 } // namespace numbering
 
-#endif // Numbering_MorePlansFixture_INCLUDED
+#endif // Numbering_TrunkPrefixPlansFixture_INCLUDED

@@ -1,6 +1,6 @@
-// MorePlansFixture.cpp
+// TrunkPrefixPlansFixture.cpp
 
-#include "plans/MorePlansFixture.h"
+#include "support/TrunkPrefixPlansFixture.h"
 
 #include <iterator>
 #include <map>
@@ -28,7 +28,7 @@ const std::map<std::string, std::string> SAMPLE_CODES = {
 
 } // namespace
 
-void MorePlansFixture::configure(Setting setting)
+void TrunkPrefixPlansFixture::configure(Setting setting)
 {
 	writeFile("dialingrules.properties",
 		std::string(PLAN_COUNTRIES) + (setting == Setting::Mexico2019 ? MEXICO_2019 : MEXICO));

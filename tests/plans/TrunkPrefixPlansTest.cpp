@@ -1,13 +1,12 @@
-// MorePlansTest.cpp
+// TrunkPrefixPlansTest.cpp
 
 #include "numbering/ZelNumberingConfig.h"
 
-#include "dialable/ZelDialable_54.h"
-#include "plans/MorePlansFixture.h"
 #include "plans/ZelCNPFactory.h"
 #include "plans/ZelCNP_54.h"
 #include "support/LogCapture.h"
 #include "support/RowName.h"
+#include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -52,7 +51,7 @@ const PlanRow PLAN_ONLY[] = {
 const std::map<std::string, std::string> CALLING_CODES{
 	{"NL", "31"}, {"AT", "43"}, {"GB", "44"}, {"IE", "353"}, {"MX", "52"}};
 
-class TrunkPrefixPlansTest: public MorePlansFixture, public ::testing::WithParamInterface<PlanRow>
+class TrunkPrefixPlansTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<PlanRow>
 {
 };
 
@@ -87,7 +86,7 @@ const ConstructionRow CONSTRUCTIONS[] = {
 	{"54", "No specific configuration file for Argentina"},
 };
 
-class TablePlanConstructionTest: public MorePlansFixture, public ::testing::WithParamInterface<ConstructionRow>
+class TablePlanConstructionTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<ConstructionRow>
 {
 protected:
 	/// The info lines written while the plan is built.
@@ -143,7 +142,7 @@ const StripRow STRIPS[] = {
 	{"UnknownAreaWithoutMobileMark", "0491234567", "", ""},
 };
 
-class ZelCNP54StripTest: public MorePlansFixture, public ::testing::WithParamInterface<StripRow>
+class ZelCNP54StripTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<StripRow>
 {
 };
 
@@ -159,55 +158,7 @@ TEST_P(ZelCNP54StripTest, SplitsTheNumber)
 
 INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), numbering::test::RowName());
 
-/// A number dialled by the Argentine maker at a site with area code siteArea (long-distance prefix 0).
-struct DialRow
-{
-	const char* name;
-	const char* siteArea;
-	const char* areaNatPfx;
-	const char* dest;
-	const char* dialled;
-};
-
-// The worked examples dial the other cases back through the facade; these are the rows only the maker sees.
-const DialRow DIALS[] = {
-	{"FixedOfTheSiteArea", "11", "11", "43211234", "43211234"},
-	{"MobileWithoutSiteArea", "", "", "91123456789", "0111523456789"},
-};
-
-class ZelDialable54Test: public MorePlansFixture, public ::testing::WithParamInterface<DialRow>
-{
-};
-
-TEST_P(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
-{
-	const DialRow& row = GetParam();
-	configure(Setting::Sample);
-	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
-	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("AR");
-	std::string area = row.areaNatPfx;
-	std::string dest = row.dest;
-	EXPECT_EQ(row.dialled, maker->makeLongDistDialableNumber(area, dest, rule, site.get()));
-	EXPECT_EQ(row.dialled, maker->makeLocalDialableNumber(area, dest, rule, site.get()));
-}
-
-INSTANTIATE_TEST_SUITE_P(Argentina, ZelDialable54Test, ::testing::ValuesIn(DIALS), numbering::test::RowName());
-
-using ZelDialable54FallbackTest = MorePlansFixture;
-
-TEST_F(ZelDialable54FallbackTest, DialsAreaAndNumberWithoutArgentinePlan)
-{
-	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
-	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"FR", "1", "0"});
-	ZelCountryRuleItem* rule = ZelNumberingConfig::getInstance()->getCountryRule("FR");
-	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
-	std::string area = "911";
-	std::string dest = "23456789";
-	EXPECT_EQ("91123456789", maker->MakeLocalOrLongDistDialableNumber(area, dest, rule, site.get()));
-}
-
-using BelgianServiceNumbersTest = MorePlansFixture;
+using BelgianServiceNumbersTest = TrunkPrefixPlansFixture;
 
 // 070 and 078 numbers keep the trunk form even when the table holds a code they begin with.
 TEST_F(BelgianServiceNumbersTest, AreNotSplitByAreaCodesOfTheTable)

@@ -1,11 +1,11 @@
-// MorePlansEndToEndTest.cpp
+// TrunkPrefixPlansEndToEndTest.cpp
 
 #include "numbering/ZelClid.h"
 #include "numbering/ZelEnumOrigin.h"
 #include "numbering/ZelNumberingRules.h"
 
-#include "plans/MorePlansFixture.h"
 #include "support/RowName.h"
+#include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -174,11 +174,11 @@ const TripRow MEXICO[] = {
 	{"InternationalOneDigitShort", "+52 55 1234 567", "+52 551234567", "01551234567", "01551234567", "0052551234567"},
 };
 
-class MorePlansEndToEndTest: public MorePlansFixture, public ::testing::WithParamInterface<TripRow>
+class TrunkPrefixPlansEndToEndTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<TripRow>
 {
 };
 
-TEST_P(MorePlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
+TEST_P(TrunkPrefixPlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
 {
 	const TripRow& row = GetParam();
 	configure(row.setting);
@@ -195,16 +195,21 @@ TEST_P(MorePlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-	Netherlands, MorePlansEndToEndTest, ::testing::ValuesIn(trips(NL20, NL10, NETHERLANDS)), RowName());
-INSTANTIATE_TEST_SUITE_P(Belgium, MorePlansEndToEndTest, ::testing::ValuesIn(trips(BE2, BE4, BELGIUM)), RowName());
-INSTANTIATE_TEST_SUITE_P(Austria, MorePlansEndToEndTest, ::testing::ValuesIn(trips(AT1, AT316, AUSTRIA)), RowName());
+	Netherlands, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(NL20, NL10, NETHERLANDS)), RowName());
 INSTANTIATE_TEST_SUITE_P(
-	UnitedKingdom, MorePlansEndToEndTest, ::testing::ValuesIn(trips(GB20, GB121, UNITED_KINGDOM)), RowName());
-INSTANTIATE_TEST_SUITE_P(Ireland, MorePlansEndToEndTest, ::testing::ValuesIn(trips(IE1, IE21, IRELAND)), RowName());
-INSTANTIATE_TEST_SUITE_P(Australia, MorePlansEndToEndTest, ::testing::ValuesIn(trips(AU2, AU3, AUSTRALIA)), RowName());
+	Belgium, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(BE2, BE4, BELGIUM)), RowName());
 INSTANTIATE_TEST_SUITE_P(
-	Argentina, MorePlansEndToEndTest, ::testing::ValuesIn(trips(AR11, AR351, ARGENTINA)), RowName());
-INSTANTIATE_TEST_SUITE_P(Mexico, MorePlansEndToEndTest, ::testing::ValuesIn(trips(MX55, MX33, MEXICO)), RowName());
+	Austria, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AT1, AT316, AUSTRIA)), RowName());
+INSTANTIATE_TEST_SUITE_P(
+	UnitedKingdom, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(GB20, GB121, UNITED_KINGDOM)), RowName());
+INSTANTIATE_TEST_SUITE_P(
+	Ireland, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(IE1, IE21, IRELAND)), RowName());
+INSTANTIATE_TEST_SUITE_P(
+	Australia, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AU2, AU3, AUSTRALIA)), RowName());
+INSTANTIATE_TEST_SUITE_P(
+	Argentina, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AR11, AR351, ARGENTINA)), RowName());
+INSTANTIATE_TEST_SUITE_P(
+	Mexico, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(MX55, MX33, MEXICO)), RowName());
 
 /// A received number at a site, and the calling-line identity made of it.
 struct ClidRow
@@ -228,11 +233,11 @@ const ClidRow CLIDS[] = {
 	{"MexicanMobileIn2019", MX55, "+52 1 55 1234 5678", &ZelEnumOrigin::PUBLIC_1, "12345678", Setting::Mexico2019},
 };
 
-class MorePlansClidTest: public MorePlansFixture, public ::testing::WithParamInterface<ClidRow>
+class TrunkPrefixPlansClidTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<ClidRow>
 {
 };
 
-TEST_P(MorePlansClidTest, TellsWhereTheCallerIs)
+TEST_P(TrunkPrefixPlansClidTest, TellsWhereTheCallerIs)
 {
 	const ClidRow& row = GetParam();
 	configure(row.setting);
@@ -242,7 +247,7 @@ TEST_P(MorePlansClidTest, TellsWhereTheCallerIs)
 	EXPECT_EQ(row.origin->getName(), clid->getOrigin()->getName());
 }
 
-INSTANTIATE_TEST_SUITE_P(MorePlans, MorePlansClidTest, ::testing::ValuesIn(CLIDS), RowName());
+INSTANTIATE_TEST_SUITE_P(MorePlans, TrunkPrefixPlansClidTest, ::testing::ValuesIn(CLIDS), RowName());
 
 } // namespace
 } // namespace test
