@@ -27,7 +27,6 @@
 using numbering::ZelDialRulesItem;
 using numbering::ZelNumberingConfig;
 using numbering::ZelNumberingRules;
-using numbering::fuzz::FacadeExercise;
 using numbering::fuzz::FuzzInput;
 
 namespace {
@@ -75,20 +74,11 @@ const char* const numbers[] = {"030 1234567", "+49 89 1234567", "0049 8031 12345
 	"0011 61 2 9876 5432", "+54 11 4321 5678", "0 221 456 7890", "+57 1 234 5678", "09 1 2345678", "+7 495 1234567",
 	"+33 1 23 45 67 89", "+34 912 345 678", "1234", "+43 316 123456", "+31 20 123 4567", "+353 1 234 5678"};
 
-std::string& configDir()
-{
-	static std::string directory;
-	return directory;
-}
+std::string configDir;
 
 void writeFile(const std::string& name, const std::string& content)
 {
-	std::ofstream(configDir() + name, std::ios::binary | std::ios::trunc) << content;
-}
-
-void removeConfigDir()
-{
-	Poco::File(configDir()).remove(true);
+	std::ofstream(configDir + name, std::ios::binary | std::ios::trunc) << content;
 }
 
 /// The file name the fuzzed content is written to, and the table whose site converts the numbers.
@@ -123,9 +113,9 @@ ZelDialRulesItem makeSite(const TableRow& row)
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
-	configDir() = Poco::Path(Poco::TemporaryFile::tempName()).toString() + "/";
-	Poco::File(configDir()).createDirectories();
-	std::atexit(removeConfigDir);
+	configDir = Poco::Path(Poco::TemporaryFile::tempName()).toString() + "/";
+	Poco::File(configDir).createDirectories();
+	std::atexit([] { Poco::File(configDir).remove(true); });
 	writeFile("dialingrules_default.properties", dialingRules);
 	writeFile("qap_cnp_mask_default.properties", masks);
 	writeFile("specific_format_activation_default.properties", activation);
@@ -134,7 +124,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 		writeFile(std::string("r7731cnp_") + row.countryNumber + "_default.properties", row.content);
 	}
 	writeFile("r7731cnp_57_default.properties", colombia.content);
-	ZelNumberingConfig::setConfigDirectory(configDir());
+	ZelNumberingConfig::setConfigDirectory(configDir);
 	return 0;
 }
 
@@ -155,9 +145,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 	const std::size_t numberCount = sizeof(numbers) / sizeof(numbers[0]);
 	for (std::size_t i = 0; i < 3; ++i)
 	{
-		FacadeExercise::run(rules, &site, numbers[((flags >> 1) + i) % numberCount], "", false);
+		numbering::fuzz::exerciseFacade(rules, &site, numbers[((flags >> 1) + i) % numberCount], "", false);
 	}
 	ZelNumberingRules::resetInstance();
-	std::remove((configDir() + name).c_str());
+	std::remove((configDir + name).c_str());
 	return 0;
 }

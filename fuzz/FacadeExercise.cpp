@@ -27,7 +27,7 @@ void allowingStdExceptions(Call call)
 
 } // namespace
 
-void FacadeExercise::run(ZelNumberingRules* rules,
+void exerciseFacade(ZelNumberingRules* rules,
 	ZelDialRulesItem* site,
 	const std::string& number,
 	const std::string& pattern,
@@ -36,37 +36,22 @@ void FacadeExercise::run(ZelNumberingRules* rules,
 	rules->checkPhoneNumber(number);
 	rules->isPrefixNeeded(site, number);
 	rules->validNumber(number);
-	const std::string canonical = rules->makeCanonicalNumber(site, number, pattern);
 	rules->makeCanonicalNumber(site, number, pattern, withExtPrefix);
-	rules->makePhoneNumber(site, number);
 	rules->addExternalPrefix(site, number);
-	rules->makePhoneNumber(site, canonical);
-	rules->formatCanonicalNumber(number, pattern);
-	rules->formatCanonicalNumber(canonical, pattern);
-	rules->formatToGSMCanonicalNumber(number);
-	rules->formatToGSMCanonicalNumber(canonical);
-	inspect(rules, number);
-	inspect(rules, canonical);
-	convertUnguarded(rules, site, number, canonical, pattern, withExtPrefix);
-}
-
-void FacadeExercise::inspect(ZelNumberingRules* rules, const std::string& number)
-{
-	rules->getCountryCode(number);
-	rules->getCountryName(number);
-	rules->getCountryCodeFromNumber(number);
-	rules->extractExtensionFromCanonicalNumber(number);
-	rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(number);
-	rules->extractCountryNumberFromCanonicalNumber(number);
-}
-
-void FacadeExercise::convertUnguarded(ZelNumberingRules* rules,
-	ZelDialRulesItem* site,
-	const std::string& number,
-	const std::string& canonical,
-	const std::string& pattern,
-	bool withExtPrefix)
-{
+	const std::string canonical = rules->makeCanonicalNumber(site, number, pattern);
+	for (const std::string& text : {number, canonical})
+	{
+		rules->makePhoneNumber(site, text);
+		rules->formatCanonicalNumber(text, pattern);
+		rules->formatToGSMCanonicalNumber(text);
+		rules->getCountryCode(text);
+		rules->getCountryName(text);
+		rules->getCountryCodeFromNumber(text);
+		rules->extractExtensionFromCanonicalNumber(text);
+		rules->extractAreaCodeOrNatPrefixFromCanonicalNumber(text);
+		rules->extractCountryNumberFromCanonicalNumber(text);
+		if (site != nullptr) allowingStdExceptions([&] { rules->makeDialableNumber(site, text); });
+	}
 	allowingStdExceptions([&] { rules->makeGSMCanonicalNumber(site, number, withExtPrefix); });
 	allowingStdExceptions([&] {
 		Poco::AutoPtr<ZelClid> clid(rules->makeClid(site, number));
@@ -74,9 +59,6 @@ void FacadeExercise::convertUnguarded(ZelNumberingRules* rules,
 	});
 	const std::string countryCode = site == nullptr ? std::string() : site->getCountryId();
 	allowingStdExceptions([&] { rules->generateDefaultCanonicalNumber(number, countryCode, pattern); });
-	if (site == nullptr) return;
-	allowingStdExceptions([&] { rules->makeDialableNumber(site, number); });
-	allowingStdExceptions([&] { rules->makeDialableNumber(site, canonical); });
 }
 
 } // namespace fuzz

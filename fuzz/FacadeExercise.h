@@ -12,31 +12,16 @@
 namespace numbering {
 namespace fuzz {
 
-/// Drives the whole facade with one number and one pattern at one site. The guarded operations are called
-/// bare: an exception escaping one of them ends the process, and the fuzzer reports it. The unguarded ones may
-/// throw a std::exception to their host, which is allowed; anything else escapes and is reported too.
-class FacadeExercise
-{
-public:
-	/// site may be null except for makeDialableNumber, which hosts only call with a site; it is then skipped.
-	static void run(ZelNumberingRules* rules,
-		ZelDialRulesItem* site,
-		const std::string& number,
-		const std::string& pattern,
-		bool withExtPrefix);
-
-private:
-	/// The four country queries and the parsing of number and of the canonical form built from it.
-	static void inspect(ZelNumberingRules* rules, const std::string& number);
-
-	/// The unguarded operations.
-	static void convertUnguarded(ZelNumberingRules* rules,
-		ZelDialRulesItem* site,
-		const std::string& number,
-		const std::string& canonical,
-		const std::string& pattern,
-		bool withExtPrefix);
-};
+/// Drives the whole facade with one number, and the canonical number made of it, with one pattern at one site.
+/// The guarded operations are called bare: an exception escaping one of them ends the process, and the fuzzer
+/// reports it. The unguarded ones may throw a std::exception to their host, which is allowed; anything else
+/// escapes and is reported too. site may be null except for makeDialableNumber, which hosts only call with a site;
+/// it is then skipped.
+void exerciseFacade(ZelNumberingRules* rules,
+	ZelDialRulesItem* site,
+	const std::string& number,
+	const std::string& pattern,
+	bool withExtPrefix);
 
 } // namespace fuzz
 } // namespace numbering

@@ -6,7 +6,7 @@
 #include "dialable/ZelDialableManager.h"
 #include "dialable/ZelDialable_7.h"
 #include "support/ConfigFixture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include "Poco/AutoPtr.h"
 

@@ -6,7 +6,7 @@
 #include "dialable/ZelDialable_54.h"
 #include "dialable/ZelDialable_57.h"
 #include "support/LogCapture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 #include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
@@ -60,9 +60,7 @@ struct LoadingCase
 	std::string info;
 };
 
-class ZelDialable57LoadingTest: public ZelDialable57Test, public ::testing::WithParamInterface<LoadingCase>
-{
-};
+using ZelDialable57LoadingTest = test::WithRows<ZelDialable57Test, LoadingCase>;
 
 TEST_P(ZelDialable57LoadingTest, ReadsOperatorCodeAndPrefixesUpToTheFirstFailure)
 {
@@ -116,9 +114,7 @@ struct PrefixCase
 	std::string expected;
 };
 
-class ZelDialable57PrefixTest: public ZelDialable57Test, public ::testing::WithParamInterface<PrefixCase>
-{
-};
+using ZelDialable57PrefixTest = test::WithRows<ZelDialable57Test, PrefixCase>;
 
 TEST_P(ZelDialable57PrefixTest, ExtractsTheLongestKnownOperatorPrefix)
 {
@@ -147,9 +143,7 @@ struct DialCase
 	std::string areaAfter;
 };
 
-class ZelDialable57DialTest: public ZelDialable57Test, public ::testing::WithParamInterface<DialCase>
-{
-};
+using ZelDialable57DialTest = test::WithRows<ZelDialable57Test, DialCase>;
 
 TEST_P(ZelDialable57DialTest, DialsTheOperatorCodeAbroad)
 {

@@ -9,7 +9,7 @@
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
 #include "support/PlanSites.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -130,9 +130,7 @@ struct GermanConversion
 	const char* expected;
 };
 
-class ZelCNP49TranslateTest: public ZelCNP49Test, public ::testing::WithParamInterface<GermanConversion>
-{
-};
+using ZelCNP49TranslateTest = WithRows<ZelCNP49Test, GermanConversion>;
 
 TEST_P(ZelCNP49TranslateTest, MakesCanonicalNumber)
 {
@@ -186,9 +184,7 @@ struct FileRow
 	int missingFileLines;
 };
 
-class ZelCNP49FileTest: public ZelCNP49Test, public ::testing::WithParamInterface<FileRow>
-{
-};
+using ZelCNP49FileTest = WithRows<ZelCNP49Test, FileRow>;
 
 TEST_P(ZelCNP49FileTest, ReadsTheSiteFileElseItsDefaultTwin)
 {
@@ -241,9 +237,7 @@ struct Conversion
 	bool ruleMissing = false;
 };
 
-class CountryPlansTest: public ConfigFixture, public ::testing::WithParamInterface<Conversion>
-{
-};
+using CountryPlansTest = WithRows<ConfigFixture, Conversion>;
 
 TEST_P(CountryPlansTest, MakesCanonicalNumber)
 {

@@ -5,7 +5,7 @@
 #include "plans/ZelCNPFactory.h"
 #include "plans/ZelCNP_54.h"
 #include "support/LogCapture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 #include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
@@ -51,9 +51,7 @@ const PlanRow PLAN_ONLY[] = {
 const std::map<std::string, std::string> CALLING_CODES{
 	{"NL", "31"}, {"AT", "43"}, {"GB", "44"}, {"IE", "353"}, {"MX", "52"}};
 
-class TrunkPrefixPlansTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<PlanRow>
-{
-};
+using TrunkPrefixPlansTest = WithRows<TrunkPrefixPlansFixture, PlanRow>;
 
 TEST_P(TrunkPrefixPlansTest, MakesCanonicalNumber)
 {
@@ -142,9 +140,7 @@ const StripRow STRIPS[] = {
 	{"UnknownAreaWithoutMobileMark", "0491234567", "", ""},
 };
 
-class ZelCNP54StripTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<StripRow>
-{
-};
+using ZelCNP54StripTest = WithRows<TrunkPrefixPlansFixture, StripRow>;
 
 TEST_P(ZelCNP54StripTest, SplitsTheNumber)
 {

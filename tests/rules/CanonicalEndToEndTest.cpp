@@ -8,7 +8,7 @@
 #include "support/ConfigFixture.h"
 #include "support/FacadeCall.h"
 #include "support/LogCapture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -92,9 +92,7 @@ struct Case
 	const char* expected;
 };
 
-class SiteCaseTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<Case>
-{
-};
+using SiteCaseTest = numbering::test::WithRows<CanonicalSitesFixture, Case>;
 
 TEST_P(SiteCaseTest, GivesTheExpectedTextWithoutAnError)
 {
@@ -172,9 +170,7 @@ struct ClidCase
 	const ZelEnumOrigin* origin;
 };
 
-class MakeClidTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<ClidCase>
-{
-};
+using MakeClidTest = numbering::test::WithRows<CanonicalSitesFixture, ClidCase>;
 
 TEST_P(MakeClidTest, TellsWhereTheCallerIs)
 {
@@ -219,9 +215,7 @@ struct FailureCase
 	const char* quoted = nullptr; ///< the number as the error line quotes it, when not the input
 };
 
-class GuardedFailureTest: public CanonicalSitesFixture, public ::testing::WithParamInterface<FailureCase>
-{
-};
+using GuardedFailureTest = numbering::test::WithRows<CanonicalSitesFixture, FailureCase>;
 
 TEST_P(GuardedFailureTest, LogsOneErrorLineAndGivesNothing)
 {

@@ -6,7 +6,7 @@
 
 #include "support/ConfigFixture.h"
 #include "support/PlanSites.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include "Poco/AutoPtr.h"
 

@@ -4,7 +4,7 @@
 #include "numbering/ZelEnumOrigin.h"
 #include "numbering/ZelNumberingRules.h"
 
-#include "support/RowName.h"
+#include "support/TableRows.h"
 #include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
@@ -174,9 +174,7 @@ const TripRow MEXICO[] = {
 	{"InternationalOneDigitShort", "+52 55 1234 567", "+52 551234567", "01551234567", "01551234567", "0052551234567"},
 };
 
-class TrunkPrefixPlansEndToEndTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<TripRow>
-{
-};
+using TrunkPrefixPlansEndToEndTest = WithRows<TrunkPrefixPlansFixture, TripRow>;
 
 TEST_P(TrunkPrefixPlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
 {
@@ -233,9 +231,7 @@ const ClidRow CLIDS[] = {
 	{"MexicanMobileIn2019", MX55, "+52 1 55 1234 5678", &ZelEnumOrigin::PUBLIC_1, "12345678", Setting::Mexico2019},
 };
 
-class TrunkPrefixPlansClidTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<ClidRow>
-{
-};
+using TrunkPrefixPlansClidTest = WithRows<TrunkPrefixPlansFixture, ClidRow>;
 
 TEST_P(TrunkPrefixPlansClidTest, TellsWhereTheCallerIs)
 {

@@ -4,7 +4,7 @@
 
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include <gtest/gtest.h>
 
@@ -25,9 +25,7 @@ struct ReaderCase
 };
 
 /// Trunk prefix 0 with area codes (FR, GB, DE), and neither trunk prefix nor area codes (ES).
-class ZelNumberingRulesParsingTest: public test::ConfigFixture, public ::testing::WithParamInterface<ReaderCase>
-{
-};
+using ZelNumberingRulesParsingTest = test::WithRows<test::ConfigFixture, ReaderCase>;
 
 TEST_P(ZelNumberingRulesParsingTest, ReadsThePartOfTheNumberWithoutAnError)
 {

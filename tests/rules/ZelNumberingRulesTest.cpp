@@ -5,7 +5,7 @@
 #include "support/ConfigFixture.h"
 #include "support/FacadeCall.h"
 #include "support/LogCapture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include <gtest/gtest.h>
 
@@ -152,10 +152,7 @@ struct LayoutCase
 	std::string expected;
 };
 
-class ZelNumberingRulesLayoutTest: public ZelNumberingRulesFormattingTest,
-								   public ::testing::WithParamInterface<LayoutCase>
-{
-};
+using ZelNumberingRulesLayoutTest = test::WithRows<ZelNumberingRulesFormattingTest, LayoutCase>;
 
 TEST_P(ZelNumberingRulesLayoutTest, LaysOutWithoutAnError)
 {
@@ -210,10 +207,7 @@ struct LayoutErrorCase
 	std::string error;
 };
 
-class ZelNumberingRulesLayoutErrorTest: public ZelNumberingRulesFormattingTest,
-										public ::testing::WithParamInterface<LayoutErrorCase>
-{
-};
+using ZelNumberingRulesLayoutErrorTest = test::WithRows<ZelNumberingRulesFormattingTest, LayoutErrorCase>;
 
 TEST_P(ZelNumberingRulesLayoutErrorTest, LogsAndGivesInputBack)
 {

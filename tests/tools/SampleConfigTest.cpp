@@ -5,7 +5,7 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "support/ConfigFixture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include "Poco/AutoPtr.h"
 #include "Poco/Format.h"
@@ -138,9 +138,7 @@ struct WellKnown
 	const char* expected;
 };
 
-class SampleWellKnownNumberTest: public SampleConfigTest, public ::testing::WithParamInterface<WellKnown>
-{
-};
+using SampleWellKnownNumberTest = numbering::test::WithRows<SampleConfigTest, WellKnown>;
 
 TEST_P(SampleWellKnownNumberTest, BecomesTheExpectedCanonicalForm)
 {

@@ -6,7 +6,7 @@
 
 #include "NonGeographicWalker.h"
 #include "support/ConfigFixture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include <gtest/gtest.h>
 

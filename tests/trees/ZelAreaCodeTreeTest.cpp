@@ -4,7 +4,7 @@
 
 #include "numbering/number_format_exception.h"
 
-#include "support/RowName.h"
+#include "support/TableRows.h"
 #include "support/ThrowMessage.h"
 #include "trees/ZelCharsTree.h"
 #include "trees/ZelCharsTreeElement.h"
