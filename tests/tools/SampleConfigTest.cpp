@@ -127,35 +127,4 @@ INSTANTIATE_TEST_SUITE_P(TablePlans,
 		Table{"Ireland", "IE", "353", "1", 59, 0}),
 	numbering::test::RowName());
 
-/// A well-known number of a country without an area-code table (the table countries are read code by code
-/// above), dialled in its capital, and the canonical form its country expects.
-struct WellKnown
-{
-	const char* name;
-	const char* country;
-	const char* siteArea;
-	const char* dialled;
-	const char* expected;
-};
-
-using SampleWellKnownNumberTest = numbering::test::WithRows<SampleConfigTest, WellKnown>;
-
-TEST_P(SampleWellKnownNumberTest, BecomesTheExpectedCanonicalForm)
-{
-	ZelDialRulesItem at = site(GetParam().country, GetParam().siteArea);
-	EXPECT_EQ(GetParam().expected, rules()->makeCanonicalNumber(&at, GetParam().dialled, ""));
-}
-
-INSTANTIATE_TEST_SUITE_P(PlanCountries,
-	SampleWellKnownNumberTest,
-	::testing::Values(WellKnown{"ParisSwitchboard", "FR", "1", "01 42 92 81 00", "+33 1 42 92 81 00"},
-		WellKnown{"GermanMobile", "DE", "30", "0151 12345678", "+49 (151) 12345678"},
-		WellKnown{"WashingtonSwitchboard", "US", "202", "202-456-1414", "+1 (202) 4561414"},
-		WellKnown{"MoscowSwitchboard", "RU", "495", "8 495 123-45-67", "+7 (495) 1234567"},
-		WellKnown{"BernSwitchboard", "CH", "31", "031 322 21 11", "+41 (31) 3222111"},
-		WellKnown{"MexicoCitySwitchboard", "MX", "55", "55 1234 5678", "+52 (55) 12345678"},
-		WellKnown{"BogotaSwitchboard", "CO", "1", "09 1 234 5678", "+57 (1) 2345678"},
-		WellKnown{"WellingtonSwitchboard", "NZ", "4", "04 817 9999", "+64 (4) 8179999"}),
-	numbering::test::RowName());
-
 } // namespace
