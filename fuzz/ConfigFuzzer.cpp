@@ -1,10 +1,11 @@
 // ConfigFuzzer.cpp
 // libFuzzer target: the fuzzer's bytes as one configuration file, loaded afresh, then a few numbers converted.
 //
-// Input: a byte choosing the file (dialing rules, masks, activation, an area-code table, the Colombian operator
-// file), a byte choosing the table's country, a byte switching traces (bit 0) and choosing the first of the
-// numbers converted (the other bits), then the file's content. The file is written
-// under the site's own name beside a small complete set of "_default" files, so it takes their place.
+// Input, read with libFuzzer's FuzzedDataProvider: from the end a byte choosing the file (dialing rules, masks,
+// activation, an area-code table, the Colombian operator file), a byte choosing the table's country, a byte
+// switching traces (bit 0) and choosing the first of the numbers converted (the other bits); the bytes before them
+// are the file's content. The file is written under the site's own name beside a small complete set of "_default"
+// files, so it takes their place.
 
 #include "numbering/Logger.h"
 #include "numbering/ZelDialRulesItem.h"
@@ -12,7 +13,6 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "FacadeExercise.h"
-#include "FuzzInput.h"
 
 #include "Poco/File.h"
 #include "Poco/Path.h"
@@ -22,12 +22,12 @@
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
+#include <fuzzer/FuzzedDataProvider.h>
 #include <string>
 
 using numbering::ZelDialRulesItem;
 using numbering::ZelNumberingConfig;
 using numbering::ZelNumberingRules;
-using numbering::fuzz::FuzzInput;
 
 namespace {
 
@@ -130,14 +130,14 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-	FuzzInput input(data, size);
-	const std::uint8_t kind = input.byte();
-	const std::uint8_t tableChoice = input.byte();
-	const std::uint8_t flags = input.byte();
+	FuzzedDataProvider input(data, size);
+	const auto kind = input.ConsumeIntegral<std::uint8_t>();
+	const auto tableChoice = input.ConsumeIntegral<std::uint8_t>();
+	const auto flags = input.ConsumeIntegral<std::uint8_t>();
 	Logger::m_Traces = (flags & 1) != 0;
 	std::string name;
 	const TableRow& row = chooseFile(kind, tableChoice, name);
-	writeFile(name, input.rest());
+	writeFile(name, input.ConsumeRemainingBytesAsString());
 
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
 	rules->getCountryList();

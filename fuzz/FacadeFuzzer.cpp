@@ -1,9 +1,10 @@
 // FacadeFuzzer.cpp
 // libFuzzer target: every facade operation at one of a few sites, with the fuzzer's bytes as number and pattern.
 //
-// Input: a site byte, a flag byte (traces, withExtPrefix, country of a made-up site), the local and exception
-// lengths of a made-up site, then the number, the pattern and, for a made-up site, its external prefix, area
-// codes and exception beginning, separated by new lines.
+// Input, read with libFuzzer's FuzzedDataProvider: from the end a site byte, a flag byte (traces, withExtPrefix,
+// country of a made-up site), the local and exception lengths of a made-up site; from the front the number, the
+// pattern and, for a made-up site, its external prefix and area codes, each ended by a backslash and another
+// character ("\\" is a backslash), then its exception beginning.
 
 #include "numbering/Logger.h"
 #include "numbering/ZelDialRulesItem.h"
@@ -11,17 +12,16 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "FacadeExercise.h"
-#include "FuzzInput.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <fuzzer/FuzzedDataProvider.h>
 #include <string>
 #include <vector>
 
 using numbering::ZelDialRulesItem;
 using numbering::ZelNumberingConfig;
 using numbering::ZelNumberingRules;
-using numbering::fuzz::FuzzInput;
 
 namespace {
 
@@ -46,13 +46,13 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-	FuzzInput input(data, size);
-	const std::size_t choice = input.byte() % (sites.size() + 2);
-	const std::uint8_t flags = input.byte();
-	const int localLength = static_cast<std::int8_t>(input.byte());
-	const int exceptLength = static_cast<std::int8_t>(input.byte());
-	const std::string number = input.textUntil('\n');
-	const std::string pattern = input.textUntil('\n');
+	FuzzedDataProvider input(data, size);
+	const std::size_t choice = input.ConsumeIntegral<std::uint8_t>() % (sites.size() + 2);
+	const auto flags = input.ConsumeIntegral<std::uint8_t>();
+	const int localLength = input.ConsumeIntegral<std::int8_t>();
+	const int exceptLength = input.ConsumeIntegral<std::int8_t>();
+	const std::string number = input.ConsumeRandomLengthString();
+	const std::string pattern = input.ConsumeRandomLengthString();
 	Logger::m_Traces = (flags & 1) != 0;
 
 	// One choice more than there are sites is no site, two more a made-up site.
@@ -60,9 +60,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 	ZelDialRulesItem* site = choice < sites.size() ? &sites[choice] : nullptr;
 	if (choice == sites.size() + 1)
 	{
-		madeUp.setExtPrefix(input.textUntil('\n'));
-		madeUp.setAreaCode(input.textUntil('\n'));
-		madeUp.setExceptNbBegin(input.rest());
+		madeUp.setExtPrefix(input.ConsumeRandomLengthString());
+		madeUp.setAreaCode(input.ConsumeRandomLengthString());
+		madeUp.setExceptNbBegin(input.ConsumeRemainingBytesAsString());
 		madeUp.setLocalNbLength(localLength);
 		madeUp.setExceptNbLength(exceptLength);
 		site = &madeUp;
