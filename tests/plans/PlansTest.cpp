@@ -6,10 +6,12 @@
 #include "plans/ZelCNPFactory.h"
 #include "plans/ZelCNPManager.h"
 #include "plans/ZelCNP_49.h"
+#include "plans/ZelCNP_54.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
 #include "support/PlanSites.h"
 #include "support/TableRows.h"
+#include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -218,8 +220,8 @@ INSTANTIATE_TEST_SUITE_P(Files,
 /// The plan of a site's country, as the factory makes it.
 ZelCNP* makePlan(const std::string& country)
 {
-	const std::map<std::string, std::string> callingCodes{
-		{"US", "1"}, {"FR", "33"}, {"CH", "41"}, {"CO", "57"}, {"NZ", "64"}, {"RU", "7"}};
+	const std::map<std::string, std::string> callingCodes{{"US", "1"}, {"FR", "33"}, {"CH", "41"}, {"CO", "57"},
+		{"NZ", "64"}, {"RU", "7"}, {"NL", "31"}, {"AT", "43"}, {"GB", "44"}, {"IE", "353"}, {"MX", "52"}};
 	return ZelCNPFactory::CreateInstance(callingCodes.at(country));
 }
 
@@ -237,12 +239,13 @@ struct Conversion
 	bool ruleMissing = false;
 };
 
-using CountryPlansTest = WithRows<ConfigFixture, Conversion>;
+using CountryPlansTest = WithRows<TrunkPrefixPlansFixture, Conversion>;
 
 TEST_P(CountryPlansTest, MakesCanonicalNumber)
 {
 	const Conversion& row = GetParam();
-	writeFile("dialingrules.properties", row.ruleMissing ? "US=1:011:EFG:1FG:G:United States:P\n" : PLAN_COUNTRIES);
+	configure(Setting::Sample);
+	if (row.ruleMissing) writeFile("dialingrules.properties", "US=1:011:EFG:1FG:G:United States:P\n");
 	ZelDialRulesItem site(
 		row.ruleMissing ? "US" : row.country, row.extPrefix, row.localNbLength, row.areaCode, 0, row.exceptNbBegin);
 	Poco::AutoPtr<ZelCNP> plan(makePlan(row.country));
@@ -302,7 +305,141 @@ const Conversion CONVERSIONS[] = {
 	{"NzBehindExternalPrefixWithoutTrunk", "NZ", "1930712345", "1930712345", "1", "9"},
 };
 
+// Trunk-prefix plans: numbers the facade never hands over as they stand; a site without prefix or area is an
+// international record.
+const Conversion TRUNK_PREFIX_CONVERSIONS[] = {
+	{"NlExtPrefixAndNational", "NL", "00201234567", "+31 (20) 1234567", "0", "20", 5},
+	{"AtExtPrefixAndNational", "AT", "00158800", "+43 (1) 58800", "0", "1", 5},
+	{"AtTwoSubscriberDigitsKeepCountry", "AT", "0223612", "+43 (0) 223612", "9", "1", 5},
+	{"GbNineDigitLondon", "GB", "0207946012", "+44 (20) 7946012", "9", "20", 5},
+	{"IeLocalOfFourDigits", "IE", "2345", "2345", "9", "1", 5},
+	{"MxExtPrefixAndOneDigitShort", "MX", "901551234567", "+52 551234567", "9", "55", 5},
+	{"MxNationalNumberBeginningWithOneKeepsCountry", "MX", "011234567890", "+52 1234567890", "9", "55", 5},
+	{"MxTooShort", "MX", "123456", "123456", "9", "55", 5},
+	{"MxTenDigitsAtSiteWithoutAreaAreNotLocal", "MX", "1234567890", "1234567890", "", "", 5},
+	{"MxEightDigitsWithTrunkDigitAreNotLocal", "MX", "01234567", "+52 234567", "9", "55", 5},
+	{"AtExtPrefixAndThreeDigits", "AT", "9234", "+43 (1) 234", "9", "1", 5},
+	{"AtShortNumberBehindLongExtPrefixIsLocal", "AT", "9923", "+43 (1) 9923", "99", "1", 5},
+	{"AtNumberAsLongAsTheLongestCode", "AT", "01234", "+43 (1) 234", "9", "1", 5},
+};
+
+INSTANTIATE_TEST_SUITE_P(TrunkPrefixPlans, CountryPlansTest, ::testing::ValuesIn(TRUNK_PREFIX_CONVERSIONS), RowName());
+
 INSTANTIATE_TEST_SUITE_P(Plans, CountryPlansTest, ::testing::ValuesIn(CONVERSIONS), RowName());
+
+const char* const NO_FILE = "No specific dialing rules configuration file";
+
+/// The info lines of a table plan without its country file, then without its default file.
+struct ConstructionRow
+{
+	const char* callingCode;
+	const char* noCountryFile;
+	const char* noDefaultFile = NO_FILE;
+};
+
+const ConstructionRow CONSTRUCTIONS[] = {
+	{"31", "No specific configuration file for Netherlands"},
+	{"32", "No specific configuration file for Belgium"},
+	{"43", "No specific configuration file for Austria"},
+	{"44", ""},
+	{"353", "No specific dialing rules configuration for Ireland",
+		"No specific dialing rules configuration for Irelandd"},
+	{"61", "No specific configuration file for Australia"},
+	{"54", "No specific configuration file for Argentina"},
+};
+
+class TablePlanConstructionTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<ConstructionRow>
+{
+protected:
+	/// The info lines written while the plan is built.
+	std::vector<std::string> infoLines()
+	{
+		LogCapture::clear();
+		Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance(GetParam().callingCode));
+		return LogCapture::matching("INFO ");
+	}
+
+	std::vector<std::string> expectedLines(bool defaultFileMissing)
+	{
+		const ConstructionRow& row = GetParam();
+		const std::string className = std::string("ZelCNP_") + row.callingCode;
+		const std::string head = "INFO N9numbering" + std::to_string(className.size()) + className + "E - ";
+		std::vector<std::string> result;
+		if (*row.noCountryFile != '\0') result.push_back(head + row.noCountryFile);
+		if (defaultFileMissing) result.push_back(head + row.noDefaultFile);
+		return result;
+	}
+};
+
+TEST_P(TablePlanConstructionTest, NamesBothMissingFilesThenOnlyTheCountryFileWhenTheDefaultOpens)
+{
+	EXPECT_EQ(expectedLines(true), infoLines());
+	writeFile(std::string("r7731cnp_") + GetParam().callingCode + "_default.properties", "Translate=1\n");
+	EXPECT_EQ(expectedLines(false), infoLines());
+}
+
+INSTANTIATE_TEST_SUITE_P(TablePlans,
+	TablePlanConstructionTest,
+	::testing::ValuesIn(CONSTRUCTIONS),
+	[](const ::testing::TestParamInfo<ConstructionRow>& info) { return std::string("Plan") + info.param.callingCode; });
+
+/// A split: the number, the site area ("": no site), the record's text ("": none).
+struct StripRow
+{
+	const char* name;
+	const char* full;
+	const char* siteArea;
+	const char* record;
+};
+
+const StripRow STRIPS[] = {
+	{"InternationalMobile", "91123456789", "351", "areaCode : '11', number : '23456789', mobile : true"},
+	{"National", "1143211234", "11", "areaCode : '11', number : '43211234', mobile : false"},
+	{"LocalMobile", "1523456789", "11", "areaCode : '11', number : '23456789', mobile : true"},
+	{"Local", "43211234", "11", "areaCode : '11', number : '43211234', mobile : false"},
+	{"NationalMobile", "0111523456789", "", "areaCode : '11', number : '23456789', mobile : true"},
+	{"MobileMarkWithoutArea", "99991234567", "", ""},
+	{"SubscriberTooShort", "0114321123", "", ""},
+	{"TooShort", "01", "11", ""},
+	{"UnknownAreaWithoutMobileMark", "0491234567", "", ""},
+};
+
+using ZelCNP54StripTest = WithRows<TrunkPrefixPlansFixture, StripRow>;
+
+TEST_P(ZelCNP54StripTest, SplitsTheNumber)
+{
+	const StripRow& row = GetParam();
+	configure(Setting::Sample);
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"AR", row.siteArea, "0"});
+	Poco::AutoPtr<ZelCNP_54> plan(new ZelCNP_54());
+	const std::unique_ptr<ZelStrippedNbr> stripped = plan->StripNbr(row.full, *row.siteArea ? site.get() : nullptr);
+	EXPECT_EQ(row.record, stripped ? stripped->ToString() : "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), numbering::test::RowName());
+
+using BelgianServiceNumbersTest = TrunkPrefixPlansFixture;
+
+// 070 and 078 numbers keep the trunk form even when the table holds a code they begin with.
+TEST_F(BelgianServiceNumbersTest, AreNotSplitByAreaCodesOfTheTable)
+{
+	configure(Setting::Sample);
+	writeFile("r7731cnp_32.properties", areaCodeTable("Translate=1\n", {"7", "78"}));
+	Poco::AutoPtr<ZelCNP> plan(ZelCNPFactory::CreateInstance("32"));
+	const std::unique_ptr<ZelDialRulesItem> site = makeSite(SiteSetup{"BE", "2", "0"});
+	EXPECT_EQ("+32 (0) 70123456", plan->qap_Country_MakeCanonicalNumber("070123456", site.get()));
+	EXPECT_EQ("+32 (0) 78123456", plan->qap_Country_MakeCanonicalNumber("078123456", site.get()));
+}
+
+// A table that cannot be read is reported under the plan's own name.
+TEST_P(TablePlanConstructionTest, NamesItselfWhenItsTableCannotBeRead)
+{
+	const std::string className = std::string("ZelCNP_") + GetParam().callingCode;
+	writeFile("r7731cnp_" + std::string(GetParam().callingCode) + ".properties", "AC_0000=${AC_0000}\n");
+	const std::vector<std::string> expected{"INFO N9numbering" + std::to_string(className.size()) + className + "E - " +
+											className + " : Circular reference"};
+	EXPECT_EQ(expected, infoLines());
+}
 
 } // namespace
 } // namespace test
