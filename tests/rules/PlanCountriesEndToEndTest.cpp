@@ -1,4 +1,6 @@
 // PlanCountriesEndToEndTest.cpp
+// Worked examples of every plan country through the facade: the trunk-prefix plans dialled back from three sites,
+// the other plans dialled and identified at their own site, and calling-line identities of mobile numbers.
 
 #include "numbering/ZelClid.h"
 #include "numbering/ZelEnumOrigin.h"
