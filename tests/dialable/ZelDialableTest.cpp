@@ -11,8 +11,8 @@
 #include "dialable/ZelDialable_7.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
+#include "support/PlanCountriesFixture.h"
 #include "support/TableRows.h"
-#include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
 #include "Poco/Format.h"
@@ -346,7 +346,7 @@ TEST_F(ZelDialableVariantsTest, RussianNumbersWithoutRussiaInTheConfigurationAre
 	EXPECT_EQ("4951234567", dial("7", "", "495", "1234567"));
 }
 
-using ZelDialable54Test = test::TrunkPrefixPlansFixture;
+using ZelDialable54Test = test::PlanCountriesFixture;
 
 // The worked examples dial the other Argentine cases back through the facade; these only the maker sees.
 TEST_F(ZelDialable54Test, DialsLongDistanceAndLocalAlike)

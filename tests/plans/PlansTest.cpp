@@ -9,9 +9,8 @@
 #include "plans/ZelCNP_54.h"
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
-#include "support/PlanSites.h"
+#include "support/PlanCountriesFixture.h"
 #include "support/TableRows.h"
-#include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -239,7 +238,7 @@ struct Conversion
 	bool ruleMissing = false;
 };
 
-using CountryPlansTest = WithRows<TrunkPrefixPlansFixture, Conversion>;
+using CountryPlansTest = WithRows<PlanCountriesFixture, Conversion>;
 
 TEST_P(CountryPlansTest, MakesCanonicalNumber)
 {
@@ -348,7 +347,7 @@ const ConstructionRow CONSTRUCTIONS[] = {
 	{"54", "No specific configuration file for Argentina"},
 };
 
-class TablePlanConstructionTest: public TrunkPrefixPlansFixture, public ::testing::WithParamInterface<ConstructionRow>
+class TablePlanConstructionTest: public PlanCountriesFixture, public ::testing::WithParamInterface<ConstructionRow>
 {
 protected:
 	/// The info lines written while the plan is built.
@@ -404,7 +403,7 @@ const StripRow STRIPS[] = {
 	{"UnknownAreaWithoutMobileMark", "0491234567", "", ""},
 };
 
-using ZelCNP54StripTest = WithRows<TrunkPrefixPlansFixture, StripRow>;
+using ZelCNP54StripTest = WithRows<PlanCountriesFixture, StripRow>;
 
 TEST_P(ZelCNP54StripTest, SplitsTheNumber)
 {
@@ -418,7 +417,7 @@ TEST_P(ZelCNP54StripTest, SplitsTheNumber)
 
 INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), numbering::test::RowName());
 
-using BelgianServiceNumbersTest = TrunkPrefixPlansFixture;
+using BelgianServiceNumbersTest = PlanCountriesFixture;
 
 // 070 and 078 numbers keep the trunk form even when the table holds a code they begin with.
 TEST_F(BelgianServiceNumbersTest, AreNotSplitByAreaCodesOfTheTable)

@@ -6,8 +6,8 @@
 #include "numbering/ZelEnumOrigin.h"
 #include "numbering/ZelNumberingRules.h"
 
+#include "support/PlanCountriesFixture.h"
 #include "support/TableRows.h"
-#include "support/TrunkPrefixPlansFixture.h"
 
 #include "Poco/AutoPtr.h"
 
@@ -177,7 +177,7 @@ const TripRow MEXICO[] = {
 	{"InternationalOneDigitShort", "+52 55 1234 567", "+52 551234567", "01551234567", "01551234567", "0052551234567"},
 };
 
-using TrunkPrefixPlansEndToEndTest = WithRows<TrunkPrefixPlansFixture, TripRow>;
+using TrunkPrefixPlansEndToEndTest = WithRows<PlanCountriesFixture, TripRow>;
 
 TEST_P(TrunkPrefixPlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
 {
@@ -234,7 +234,7 @@ const ClidRow CLIDS[] = {
 	{"MexicanMobileIn2019", MX55, "+52 1 55 1234 5678", &ZelEnumOrigin::PUBLIC_1, "12345678", Setting::Mexico2019},
 };
 
-using TrunkPrefixPlansClidTest = WithRows<TrunkPrefixPlansFixture, ClidRow>;
+using TrunkPrefixPlansClidTest = WithRows<PlanCountriesFixture, ClidRow>;
 
 TEST_P(TrunkPrefixPlansClidTest, TellsWhereTheCallerIs)
 {
@@ -291,7 +291,7 @@ const Trip TRIPS[] = {
 	{"NzSixDigitsOutsideAreaTwo", AUCKLAND, "307123", "307123", "1307123", "307123", "Private"},
 };
 
-using CountryPlansEndToEndTest = WithRows<TrunkPrefixPlansFixture, Trip>;
+using CountryPlansEndToEndTest = WithRows<PlanCountriesFixture, Trip>;
 
 TEST_P(CountryPlansEndToEndTest, MakesCanonicalNumberPhoneNumberAndClid)
 {

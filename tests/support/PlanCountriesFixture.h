@@ -1,21 +1,60 @@
-// TrunkPrefixPlansFixture.h
-// Test fixture of the trunk-prefix plans: the Dutch, Belgian, Austrian, British, Irish, Australian, Mexican and
-// Argentine plans.
+// PlanCountriesFixture.h
+// Test fixture of the countries with a numbering plan: their dialing rules, sites in them and the area-code tables
+// of the trunk-prefix plans (the Dutch, Belgian, Austrian, British, Irish, Australian and Argentine plans).
 
-#ifndef Numbering_TrunkPrefixPlansFixture_INCLUDED
-#define Numbering_TrunkPrefixPlansFixture_INCLUDED
+#ifndef Numbering_PlanCountriesFixture_INCLUDED
+#define Numbering_PlanCountriesFixture_INCLUDED
+
+#include "numbering/ZelDialRulesItem.h"
 
 #include "support/ConfigFixture.h"
-#include "support/PlanSites.h"
 
 #include <iterator>
 #include <map>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace numbering {
 namespace test {
+
+/// The countries with a numbering plan but Germany and Mexico, whose tests vary their rules: long-distance calls
+/// dial the trunk prefix before the area code, and Belgium dials it on local calls too.
+inline constexpr const char* PLAN_COUNTRIES = R"(AR=54:00:EFG:0FG:G:Argentina:P
+AT=43:00:EFG:0FG:G:Austria:P
+AU=61:0011:EFG:0FG:G:Australia:P
+BE=32:00:EFG:0FG:0FG:Belgium:P
+CH=41:00:EFG:0FG:G:Switzerland:P
+CO=57:00:EFG:0FG:G:Colombia:P
+FR=33:00:EFG:0FG:G:France:P
+GB=44:00:EFG:0FG:G:United Kingdom:P
+IE=353:00:EFG:0FG:G:Ireland:P
+NL=31:00:EFG:0FG:G:Netherlands:P
+NZ=64:00:EFG:0FG:G:New Zealand:P
+RU=7:810:EFG:8FG:G:Russia:P
+US=1:011:EFG:1FG:G:United States:P
+)";
+
+/// A site as the worked examples write it: country, area-code list, external prefix.
+struct SiteSetup
+{
+	const char* country;
+	const char* areas;
+	const char* ext;
+};
+
+/// The site's record with local numbers shorter than 5 digits; its country must be in the dialing rules.
+inline std::unique_ptr<ZelDialRulesItem> makeSite(const SiteSetup& site)
+{
+	return std::make_unique<ZelDialRulesItem>(site.country, site.ext, 5, site.areas, 0, "");
+}
+
+/// "NL/20 ext 0".
+inline std::string siteName(const SiteSetup& site)
+{
+	return std::string(site.country) + "/" + site.areas + " ext " + site.ext;
+}
 
 /// What a row of examples needs besides the dialing rules of the examples.
 enum class Setting
@@ -27,7 +66,7 @@ enum class Setting
 };
 
 /// Writes the dialing rules of the plan countries and Mexico, and the sample area-code tables.
-class TrunkPrefixPlansFixture: public ConfigFixture
+class PlanCountriesFixture: public ConfigFixture
 {
 protected:
 	/// The dialing rules and tables of setting.
@@ -60,4 +99,4 @@ protected:
 } // namespace test
 } // namespace numbering
 
-#endif // Numbering_TrunkPrefixPlansFixture_INCLUDED
+#endif // Numbering_PlanCountriesFixture_INCLUDED
