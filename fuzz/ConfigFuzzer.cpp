@@ -23,6 +23,7 @@
 #include <cstdio>
 #include <fstream>
 #include <fuzzer/FuzzedDataProvider.h>
+#include <iterator>
 #include <string>
 
 using numbering::ZelDialRulesItem;
@@ -85,28 +86,11 @@ void writeFile(const std::string& name, const std::string& content)
 const TableRow& chooseFile(std::uint8_t kind, std::uint8_t tableChoice, std::string& name)
 {
 	const char* const configurationFiles[] = {"dialingrules", "qap_cnp_mask", "specific_format_activation"};
-	const TableRow& table = tables[tableChoice % (sizeof(tables) / sizeof(tables[0]))];
+	const TableRow& table = tables[tableChoice % std::size(tables)];
 	const TableRow& chosen = kind % 5 == 4 ? colombia : table;
 	name = kind % 5 < 3 ? configurationFiles[kind % 5] : std::string("r7731cnp_") + chosen.countryNumber;
 	name += ".properties";
 	return chosen;
-}
-
-/// A site in the country, or in the default country when the loaded dialing rules do not know it.
-ZelDialRulesItem makeSite(const TableRow& row)
-{
-	ZelDialRulesItem site;
-	try
-	{
-		site.setCountryId(row.siteCountry);
-	}
-	catch (const std::exception&)
-	{
-	}
-	site.setExtPrefix("0");
-	site.setLocalNbLength(5);
-	site.setAreaCode(row.siteArea);
-	return site;
 }
 
 } // namespace
@@ -141,12 +125,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
 	rules->getCountryList();
-	ZelDialRulesItem site = makeSite(row);
-	const std::size_t numberCount = sizeof(numbers) / sizeof(numbers[0]);
+	// A site in the country, or in the default country when the loaded dialing rules do not know it.
+	ZelDialRulesItem site;
+	numbering::fuzz::allowingStdExceptions([&] { site.setCountryId(row.siteCountry); });
+	site.setExtPrefix("0");
+	site.setLocalNbLength(5);
+	site.setAreaCode(row.siteArea);
 	for (std::size_t i = 0; i < 3; ++i)
-	{
-		numbering::fuzz::exerciseFacade(rules, &site, numbers[((flags >> 1) + i) % numberCount], "", false);
-	}
+		numbering::fuzz::exerciseFacade(rules, &site, numbers[((flags >> 1) + i) % std::size(numbers)], "", false);
 	ZelNumberingRules::resetInstance();
 	std::remove((configDir + name).c_str());
 	return 0;

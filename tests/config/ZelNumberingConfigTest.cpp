@@ -134,7 +134,7 @@ INSTANTIATE_TEST_SUITE_P(Masks,
 		MaskCase{"CutStartsAtFive", "ZZMask_7_1=P\n", "k", "P"},
 		MaskCase{"MoreMasksThanLetters", manyMasks(), "124", "+C x"},
 		MaskCase{"ThreeDigitCountry", "Mask_353_1=+C (A) x\n", "353", "+C (A) x"}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 /// The activation file, then whether the flag kept under 0 is on.
 struct ActivationCase
@@ -165,7 +165,7 @@ INSTANTIATE_TEST_SUITE_P(Values,
 		ActivationCase{"NumberLongerThanThreeDigitsIgnored", "cnp_1242=off\ncnp_=off\n", true},
 		ActivationCase{"FirstSwitchReadStays", "cnp_32=on\ncnp_33=off\n", true},
 		ActivationCase{"ThreeDigitCountry", "cnp_353=off\n", false}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
 {
@@ -222,7 +222,7 @@ INSTANTIATE_TEST_SUITE_P(DialingRules,
 		BadFileCase{"KeyWithDot", "AA=1:::::A\nFR.x=33:00:EFG:0FG:G:France:P\n", "Not found", {}},
 		BadFileCase{"LineWithoutEquals", "FR\n", "", {""}},
 		BadFileCase{"HugeValue", "FR=33:0:E:0F:G:" + std::string(100000, 'n') + "\n", "", {std::string(100000, 'n')}}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelNumberingConfigTest, DirectoryOrEmptyPathInPlaceOfAFileCountsAsMissing)
 {
@@ -353,6 +353,6 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"LeadingF", "FG", "F", "FG", "", ""},
 		RuleCase{"LowerCaseIgnored", "0fi", "0g", "0fi", "", ""},
 		RuleCase{"Empty", "", "", "", "", ""}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 } // namespace

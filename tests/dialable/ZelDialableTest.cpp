@@ -106,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"AreaOnlyStartingWithTrunkIsKept", Call::International, "EF", "020", "12345678", "004402012345678"},
 		RuleCase{"UnknownCountryKeepsArea", Call::International, "EF", "0", "12", "00999012", "999"},
 		RuleCase{"TrunkKeptWithoutLetterF", Call::International, "E", "0", "2012345678", "00442012345678"}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 using ZelDialableManagerTest = test::ConfigFixture;
 
@@ -204,7 +204,7 @@ INSTANTIATE_TEST_SUITE_P(PlanFiles,
 		LoadingCase{"GapEndsTheList", "OP_0000 = 456\nOP_0002 = 5\n", FALLBACK, "0912345678", {"456"}, {"5"}, ""},
 		LoadingCase{"ValueWithoutDigitsEndsTheList", "OP_0000 = 456\nOP_0001 = none\nOP_0002 = 5\n", nullptr,
 			"0912345678", {"456"}, {"5"}, ""}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelDialable57Test, ReadsOperatorPrefixesUpToTheIndex9998)
 {
@@ -240,7 +240,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		PrefixCase{"NumberBehindPrefix", "4561234", "456"},
 		PrefixCase{"PartOfPrefix", "4", ""},
 		PrefixCase{"NotDigits", std::string("4\0\xff", 3), ""}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 struct DialCase
 {
@@ -277,7 +277,7 @@ INSTANTIATE_TEST_SUITE_P(International,
 		DialCase{"SubscriberAndAreaPart", "EF", "33", "1", "23456789", "00423456789123456789", "1"},
 		DialCase{"TrunkPrefixDropped", "F", "33", "0", "23456789", "00423456789", ""},
 		DialCase{"TrunkPrefixOfUnknownCountryKept", "F", "999", "0", "23456789", "004023456789", "0"}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelDialable57DialTest, LongDistanceDialsTheMobileDigitInPlaceOfTheOperatorCode)
 {
@@ -338,7 +338,7 @@ INSTANTIATE_TEST_SUITE_P(Countries,
 		LongDistCase{"RussianTenDigits", "7", "", "495", "1234567", "84951234567"},
 		LongDistCase{"RussianNineDigits", "7", "", "49", "1234567", "491234567"},
 		LongDistCase{"RussianElevenDigits", "7", "", "4951", "1234567", "49511234567"}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelDialableVariantsTest, RussianNumbersWithoutRussiaInTheConfigurationAreDialledAsTheyStand)
 {

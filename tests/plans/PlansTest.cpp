@@ -161,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		GermanConversion{"InternationalNotBehindPrefix", "9", "", "0049891234", "0049891234"},
 		GermanConversion{"BinaryNumber", "0", "", "0\x01\xff\x7f", "0\x01\xff\x7f"},
 		GermanConversion{"ThreeDigitsBehindPrefix", "9", "7731", "9234", "+49 (7731) 234"}),
-	RowName());
+	rowName);
 
 TEST_F(ZelCNP49Test, ReadsAreaCodesUpToTheIndex9998)
 {
@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(Files,
 		FileRow{"NoFileNational", "", "", "0", "0891234567", "+49 (7731) 891234567", 1},
 		FileRow{"NoFileLocal", "", "", "0", "1234567", "+49 (7731) 1234567", 1},
 		FileRow{"ThreeDigitsAfterTrunkPrefix", "AC_0000=89\n", "", "9", "0301", "+49 (7731) 301", 0}),
-	RowName());
+	rowName);
 
 /// The plan of a site's country, as the factory makes it.
 ZelCNP* makePlan(const std::string& country)
@@ -322,9 +322,9 @@ const Conversion TRUNK_PREFIX_CONVERSIONS[] = {
 	{"AtNumberAsLongAsTheLongestCode", "AT", "01234", "+43 (1) 234", "9", "1", 5},
 };
 
-INSTANTIATE_TEST_SUITE_P(TrunkPrefixPlans, CountryPlansTest, ::testing::ValuesIn(TRUNK_PREFIX_CONVERSIONS), RowName());
+INSTANTIATE_TEST_SUITE_P(TrunkPrefixPlans, CountryPlansTest, ::testing::ValuesIn(TRUNK_PREFIX_CONVERSIONS), rowName);
 
-INSTANTIATE_TEST_SUITE_P(Plans, CountryPlansTest, ::testing::ValuesIn(CONVERSIONS), RowName());
+INSTANTIATE_TEST_SUITE_P(Plans, CountryPlansTest, ::testing::ValuesIn(CONVERSIONS), rowName);
 
 const char* const NO_FILE = "No specific dialing rules configuration file";
 
@@ -415,7 +415,7 @@ TEST_P(ZelCNP54StripTest, SplitsTheNumber)
 	EXPECT_EQ(row.record, stripped ? stripped->ToString() : "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), numbering::test::RowName());
+INSTANTIATE_TEST_SUITE_P(Argentina, ZelCNP54StripTest, ::testing::ValuesIn(STRIPS), numbering::test::rowName);
 
 using BelgianServiceNumbersTest = PlanCountriesFixture;
 

@@ -196,21 +196,19 @@ TEST_P(TrunkPrefixPlansEndToEndTest, MakesCanonicalNumberAndDialsItBack)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-	Netherlands, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(NL20, NL10, NETHERLANDS)), RowName());
+	Netherlands, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(NL20, NL10, NETHERLANDS)), rowName);
+INSTANTIATE_TEST_SUITE_P(Belgium, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(BE2, BE4, BELGIUM)), rowName);
 INSTANTIATE_TEST_SUITE_P(
-	Belgium, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(BE2, BE4, BELGIUM)), RowName());
+	Austria, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AT1, AT316, AUSTRIA)), rowName);
 INSTANTIATE_TEST_SUITE_P(
-	Austria, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AT1, AT316, AUSTRIA)), RowName());
+	UnitedKingdom, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(GB20, GB121, UNITED_KINGDOM)), rowName);
 INSTANTIATE_TEST_SUITE_P(
-	UnitedKingdom, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(GB20, GB121, UNITED_KINGDOM)), RowName());
+	Ireland, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(IE1, IE21, IRELAND)), rowName);
 INSTANTIATE_TEST_SUITE_P(
-	Ireland, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(IE1, IE21, IRELAND)), RowName());
+	Australia, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AU2, AU3, AUSTRALIA)), rowName);
 INSTANTIATE_TEST_SUITE_P(
-	Australia, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AU2, AU3, AUSTRALIA)), RowName());
-INSTANTIATE_TEST_SUITE_P(
-	Argentina, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AR11, AR351, ARGENTINA)), RowName());
-INSTANTIATE_TEST_SUITE_P(
-	Mexico, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(MX55, MX33, MEXICO)), RowName());
+	Argentina, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(AR11, AR351, ARGENTINA)), rowName);
+INSTANTIATE_TEST_SUITE_P(Mexico, TrunkPrefixPlansEndToEndTest, ::testing::ValuesIn(trips(MX55, MX33, MEXICO)), rowName);
 
 /// A received number at a site, and the calling-line identity made of it.
 struct ClidRow
@@ -246,7 +244,7 @@ TEST_P(TrunkPrefixPlansClidTest, TellsWhereTheCallerIs)
 	EXPECT_EQ(row.origin->getName(), clid->getOrigin()->getName());
 }
 
-INSTANTIATE_TEST_SUITE_P(MobileMarks, TrunkPrefixPlansClidTest, ::testing::ValuesIn(CLIDS), RowName());
+INSTANTIATE_TEST_SUITE_P(MobileMarks, TrunkPrefixPlansClidTest, ::testing::ValuesIn(CLIDS), rowName);
 
 /// A number at a site: its canonical form, what the exchange dials, and its calling-line identity.
 struct Trip
@@ -307,7 +305,7 @@ TEST_P(CountryPlansEndToEndTest, MakesCanonicalNumberPhoneNumberAndClid)
 	EXPECT_EQ(trip.clidOrigin, clid->getOrigin()->getName());
 }
 
-INSTANTIATE_TEST_SUITE_P(Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), RowName());
+INSTANTIATE_TEST_SUITE_P(Sites, CountryPlansEndToEndTest, ::testing::ValuesIn(TRIPS), rowName);
 
 } // namespace
 } // namespace test

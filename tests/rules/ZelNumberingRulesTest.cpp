@@ -137,7 +137,7 @@ INSTANTIATE_TEST_SUITE_P(SpanishSite,
 		DialCase{"PlusNumberDialledWithPrefixGetsNoSecond", Op::Prefix, "+34 (4) 12345678", "0412345678", 11, ""},
 		DialCase{"OpeningBracketAloneIsNoArea", Op::Dial, "+34 (1 23456789", "0123456789", 4, ""},
 		DialCase{"ClosingBracketAloneIsNoArea", Op::Dial, "+34 1) 23456789", "0123456789", 4, ""}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 using ZelNumberingRulesCanonicalErrorTest = ZelNumberingRulesDialableTest;
 
@@ -221,7 +221,7 @@ INSTANTIATE_TEST_SUITE_P(Patterns,
 		LayoutCase{"EmptyPatternTakesTheMask", "+33 (1) 23456789", "", nullptr, "+33 (1) 23 45 67 89"},
 		LayoutCase{"MaskFoundForTrimmedCountry", "+33  (1) 23456789", "", nullptr, "+33 (1) 23 45 67 89"},
 		LayoutCase{"EmptyPatternWithoutMaskUnchanged", "+49 (30) 1234567", "", nullptr, "+49 (30) 1234567"}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 INSTANTIATE_TEST_SUITE_P(DefaultCanonicalNumbers,
 	ZelNumberingRulesLayoutTest,
@@ -237,7 +237,7 @@ INSTANTIATE_TEST_SUITE_P(DefaultCanonicalNumbers,
 		LayoutCase{"EmptyNumber", "", "GB", "20", ""},
 		LayoutCase{"EmptyCountryCode", "0201234567", "", "20", ""},
 		LayoutCase{"UnknownCountryCode", "0201234567", "ZZ", "20", ""}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 /// A layout of an unreadable number: the input back and one error line, whose text after the logger is given.
 struct LayoutErrorCase
@@ -275,7 +275,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 			GSM_ERROR + "substr: __pos (which is 8) > this->size() (which is 7) - strCanPhoneNumber: '+33 (1)'"},
 		LayoutErrorCase{"GSMCountryWithoutBlank", true, "+33(1)2", "",
 			GSM_ERROR + "at: __n (which is 7) >= this->size() (which is 7) - strCanPhoneNumber: '+33(1)2'"}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 using Reader = std::string (ZelNumberingRules::*)(std::string);
 
@@ -345,7 +345,7 @@ INSTANTIATE_TEST_SUITE_P(Readers,
 		ReaderCase{"ValidRebuildsDoubleBracket", VALID, "+33 ((1) 23", "+33 (1) 23"},
 		ReaderCase{"ValidDropsSeparatorBeforeSubscriber", VALID, "+33 (1) -23", "+33 (1) 23"},
 		ReaderCase{"CountryMustFollowThePlus", COUNTRY, "+ 33 (1) 2", ""}),
-	test::RowName());
+	test::rowName);
 
 /// Germany and Colombia with plans, Spain (no trunk prefix), Italy (trunk 0), Portugal (long-distance rule E,
 /// local rule F), Luxembourg (no long-distance rule, local rule G: local and national numbers alike) and
@@ -450,7 +450,7 @@ INSTANTIATE_TEST_SUITE_P(Canonical,
 		Case{"GSMTrunkPrefixDropped", Op::GSM, "Rome", "0612345678", "+39612345678"},
 		Case{"GSMInternal", Op::GSM, "Berlin", "1234", "1234"},
 		Case{"TwoStarsAreNoMarker", Op::Canonical, "Berlin", " **21# ", "**21#"}),
-	test::RowName());
+	test::rowName);
 
 // makePhoneNumber converts dialled numbers too, addExternalPrefix only cleans them.
 INSTANTIATE_TEST_SUITE_P(Dialled,
@@ -475,7 +475,7 @@ INSTANTIATE_TEST_SUITE_P(Dialled,
 		Case{"DialPassesOnDialled", Op::Dial, "Berlin", "0301234", "0301234"},
 		Case{"DialNothingAfterArea", Op::Dial, "Berlin", "+49 (89) ", ""},
 		Case{"DialUnconfiguredSite", Op::Dial, "Unconfigured", "+49 (89) 123", "+49 (89) 123"}),
-	test::RowName());
+	test::rowName);
 
 /// A received number and the calling-line identity made of it.
 struct ClidCase
@@ -502,7 +502,7 @@ INSTANTIATE_TEST_SUITE_P(Origins,
 	::testing::Values(ClidCase{"TrunkPrefixAsArea", "Rome", "0612345678", "612345678", &ZelEnumOrigin::NATIONAL},
 		ClidCase{
 			"AbroadTrunkPrefixDropped", "Berlin", "0039 06 1234 5678", "390612345678", &ZelEnumOrigin::INTERNATIONAL}),
-	test::RowName());
+	test::rowName);
 
 using UnguardedOperationTest = CanonicalSitesFixture;
 
@@ -563,7 +563,7 @@ INSTANTIATE_TEST_SUITE_P(Operations,
 		FailureCase{"CanonicalBlanksAreEmptyOnceTrimmed", Op::Canonical, "Berlin", "   ",
 			"'strPhoneNumber' parameter can not be null", ""},
 		FailureCase{"PrefixNoSite", Op::Prefix, "none", "1234", "'myZelDialRulesItem' parameter can not be null"}),
-	test::RowName());
+	test::rowName);
 
 using TracesTest = CanonicalSitesFixture;
 

@@ -18,14 +18,7 @@ class WithRows: public Fixture, public ::testing::WithParamInterface<Row>
 };
 
 /// Name generator for INSTANTIATE_TEST_SUITE_P over rows that have a "name" member.
-struct RowName
-{
-	template <typename Row>
-	std::string operator()(const ::testing::TestParamInfo<Row>& info) const
-	{
-		return info.param.name;
-	}
-};
+inline constexpr auto rowName = [](const auto& info) { return std::string(info.param.name); };
 
 } // namespace test
 } // namespace numbering

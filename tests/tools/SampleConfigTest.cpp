@@ -138,7 +138,7 @@ INSTANTIATE_TEST_SUITE_P(TablePlans,
 		Table{"Argentina", "AR", "54", "11", 322, 10},
 		Table{"Australia", "AU", "61", "2", 89, 9},
 		Table{"Ireland", "IE", "353", "1", 59, 0}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 #ifdef NUMBERING_HAVE_GENERATOR
 
@@ -236,7 +236,7 @@ INSTANTIATE_TEST_SUITE_P(TablePlans,
 		TableCountry{"Argentina", "AR", "11", "351", 10, 11, {"800"}},
 		TableCountry{"Australia", "AU", "2", "3", 9, 9, {"1"}},
 		TableCountry{"Ireland", "IE", "1", "21", 5, 13, {}}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 #endif
 

@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		Extraction{"StopsAtANonDigit", "30-12", "30"},
 		Extraction{"Empty", "", ""},
 		Extraction{"Binary", "\x01\xff", ""}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelAreaCodeTreeTest, RefusesAPathAlreadyPresent)
 {
