@@ -1,10 +1,11 @@
 // ConfigFuzzer.cpp
 // libFuzzer target: the fuzzer's bytes as one configuration file, loaded afresh, then a few numbers converted.
 //
-// Input: a byte choosing the file (dialing rules, masks, activation, an area-code table, the Colombian operator
-// file), a byte choosing the table's country, a byte switching traces (bit 0) and choosing the first of the
-// numbers converted (the other bits), then the file's content. The file is written
-// under the site's own name beside a small complete set of "_default" files, so it takes their place.
+// Input, read with libFuzzer's FuzzedDataProvider: from the end a byte choosing the file (dialing rules, masks,
+// activation, an area-code table, the Colombian operator file), a byte choosing the table's country, a byte
+// switching traces (bit 0) and choosing the first of the numbers converted (the other bits); the bytes before them
+// are the file's content. The file is written under the site's own name beside a small complete set of "_default"
+// files, so it takes their place.
 
 #include "numbering/Logger.h"
 #include "numbering/ZelDialRulesItem.h"
@@ -12,7 +13,6 @@
 #include "numbering/ZelNumberingRules.h"
 
 #include "FacadeExercise.h"
-#include "FuzzInput.h"
 
 #include "Poco/File.h"
 #include "Poco/Path.h"
@@ -22,13 +22,13 @@
 #include <cstdint>
 #include <cstdio>
 #include <fstream>
+#include <fuzzer/FuzzedDataProvider.h>
+#include <iterator>
 #include <string>
 
 using numbering::ZelDialRulesItem;
 using numbering::ZelNumberingConfig;
 using numbering::ZelNumberingRules;
-using numbering::fuzz::FacadeExercise;
-using numbering::fuzz::FuzzInput;
 
 namespace {
 
@@ -75,57 +75,31 @@ const char* const numbers[] = {"030 1234567", "+49 89 1234567", "0049 8031 12345
 	"0011 61 2 9876 5432", "+54 11 4321 5678", "0 221 456 7890", "+57 1 234 5678", "09 1 2345678", "+7 495 1234567",
 	"+33 1 23 45 67 89", "+34 912 345 678", "1234", "+43 316 123456", "+31 20 123 4567", "+353 1 234 5678"};
 
-std::string& configDir()
-{
-	static std::string directory;
-	return directory;
-}
+std::string configDir;
 
 void writeFile(const std::string& name, const std::string& content)
 {
-	std::ofstream(configDir() + name, std::ios::binary | std::ios::trunc) << content;
-}
-
-void removeConfigDir()
-{
-	Poco::File(configDir()).remove(true);
+	std::ofstream(configDir + name, std::ios::binary | std::ios::trunc) << content;
 }
 
 /// The file name the fuzzed content is written to, and the table whose site converts the numbers.
 const TableRow& chooseFile(std::uint8_t kind, std::uint8_t tableChoice, std::string& name)
 {
 	const char* const configurationFiles[] = {"dialingrules", "qap_cnp_mask", "specific_format_activation"};
-	const TableRow& table = tables[tableChoice % (sizeof(tables) / sizeof(tables[0]))];
+	const TableRow& table = tables[tableChoice % std::size(tables)];
 	const TableRow& chosen = kind % 5 == 4 ? colombia : table;
 	name = kind % 5 < 3 ? configurationFiles[kind % 5] : std::string("r7731cnp_") + chosen.countryNumber;
 	name += ".properties";
 	return chosen;
 }
 
-/// A site in the country, or in the default country when the loaded dialing rules do not know it.
-ZelDialRulesItem makeSite(const TableRow& row)
-{
-	ZelDialRulesItem site;
-	try
-	{
-		site.setCountryId(row.siteCountry);
-	}
-	catch (const std::exception&)
-	{
-	}
-	site.setExtPrefix("0");
-	site.setLocalNbLength(5);
-	site.setAreaCode(row.siteArea);
-	return site;
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
-	configDir() = Poco::Path(Poco::TemporaryFile::tempName()).toString() + "/";
-	Poco::File(configDir()).createDirectories();
-	std::atexit(removeConfigDir);
+	configDir = Poco::Path(Poco::TemporaryFile::tempName()).toString() + "/";
+	Poco::File(configDir).createDirectories();
+	std::atexit([] { Poco::File(configDir).remove(true); });
 	writeFile("dialingrules_default.properties", dialingRules);
 	writeFile("qap_cnp_mask_default.properties", masks);
 	writeFile("specific_format_activation_default.properties", activation);
@@ -134,30 +108,32 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 		writeFile(std::string("r7731cnp_") + row.countryNumber + "_default.properties", row.content);
 	}
 	writeFile("r7731cnp_57_default.properties", colombia.content);
-	ZelNumberingConfig::setConfigDirectory(configDir());
+	ZelNumberingConfig::setConfigDirectory(configDir);
 	return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-	FuzzInput input(data, size);
-	const std::uint8_t kind = input.byte();
-	const std::uint8_t tableChoice = input.byte();
-	const std::uint8_t flags = input.byte();
+	FuzzedDataProvider input(data, size);
+	const auto kind = input.ConsumeIntegral<std::uint8_t>();
+	const auto tableChoice = input.ConsumeIntegral<std::uint8_t>();
+	const auto flags = input.ConsumeIntegral<std::uint8_t>();
 	Logger::m_Traces = (flags & 1) != 0;
 	std::string name;
 	const TableRow& row = chooseFile(kind, tableChoice, name);
-	writeFile(name, input.rest());
+	writeFile(name, input.ConsumeRemainingBytesAsString());
 
 	ZelNumberingRules* rules = ZelNumberingRules::getInstance();
 	rules->getCountryList();
-	ZelDialRulesItem site = makeSite(row);
-	const std::size_t numberCount = sizeof(numbers) / sizeof(numbers[0]);
+	// A site in the country, or in the default country when the loaded dialing rules do not know it.
+	ZelDialRulesItem site;
+	numbering::fuzz::allowingStdExceptions([&] { site.setCountryId(row.siteCountry); });
+	site.setExtPrefix("0");
+	site.setLocalNbLength(5);
+	site.setAreaCode(row.siteArea);
 	for (std::size_t i = 0; i < 3; ++i)
-	{
-		FacadeExercise::run(rules, &site, numbers[((flags >> 1) + i) % numberCount], "", false);
-	}
+		numbering::fuzz::exerciseFacade(rules, &site, numbers[((flags >> 1) + i) % std::size(numbers)], "", false);
 	ZelNumberingRules::resetInstance();
-	std::remove((configDir() + name).c_str());
+	std::remove((configDir + name).c_str());
 	return 0;
 }

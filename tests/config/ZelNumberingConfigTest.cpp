@@ -8,7 +8,7 @@
 
 #include "support/ConfigFixture.h"
 #include "support/LogCapture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 #include "support/ThrowMessage.h"
 
 #include "Poco/AutoPtr.h"
@@ -38,6 +38,7 @@ BS=1242:011:EFG:1F:G:Bahamas:P
 CA=1:011:EFG:1F:G:Canada
 CW=5999:00:EFG:0FG:G:Curacao:P
 FR=33:00:EFG:0FG:G:France:P
+IE=353:00:EFG:0FG:G:Ireland:P
 US=1:011:EFG:1F:G:United States:P
 XX=88888:00:EFG:0FG:G:Nowhere:P
 )";
@@ -107,9 +108,7 @@ struct MaskCase
 	const char* pattern;
 };
 
-class ZelNumberingConfigMaskTest: public ZelNumberingConfigTest, public ::testing::WithParamInterface<MaskCase>
-{
-};
+using ZelNumberingConfigMaskTest = numbering::test::WithRows<ZelNumberingConfigTest, MaskCase>;
 
 TEST_P(ZelNumberingConfigMaskTest, StoresPatternUnderMaskKey)
 {
@@ -135,40 +134,38 @@ INSTANTIATE_TEST_SUITE_P(Masks,
 		MaskCase{"CutStartsAtFive", "ZZMask_7_1=P\n", "k", "P"},
 		MaskCase{"MoreMasksThanLetters", manyMasks(), "124", "+C x"},
 		MaskCase{"ThreeDigitCountry", "Mask_353_1=+C (A) x\n", "353", "+C (A) x"}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
-/// Value of "cnp_33", then whether the flag kept under 0 is on.
-using ActivationCase = std::pair<std::string, bool>;
-
-class ZelNumberingConfigActivationTest: public ZelNumberingConfigTest,
-										public ::testing::WithParamInterface<ActivationCase>
+/// The activation file, then whether the flag kept under 0 is on.
+struct ActivationCase
 {
+	const char* name;
+	const char* switches;
+	bool active;
 };
+
+using ZelNumberingConfigActivationTest = numbering::test::WithRows<ZelNumberingConfigTest, ActivationCase>;
 
 TEST_P(ZelNumberingConfigActivationTest, KeepsTheFlagUnderZeroSoRealNumbersReadActive)
 {
 	writeFile("dialingrules.properties", DIALING_RULES);
-	writeFile("specific_format_activation.properties", "cnp_33=" + GetParam().first + "\n");
-	EXPECT_EQ(GetParam().second, load().isSpecificFormatActiveForCountry("0"));
+	writeFile("specific_format_activation.properties", GetParam().switches);
+	EXPECT_EQ(GetParam().active, load().isSpecificFormatActiveForCountry("0"));
 	EXPECT_TRUE(load().isSpecificFormatActiveForCountry("33"));
-}
-
-TEST_F(ZelNumberingConfigTest, ActivationOfANumberLongerThanThreeDigitsIsIgnored)
-{
-	writeFile("dialingrules.properties", DIALING_RULES);
-	writeFile("specific_format_activation.properties", "cnp_1242=off\ncnp_=off\n");
-	EXPECT_TRUE(load().isSpecificFormatActiveForCountry("0"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Values,
 	ZelNumberingConfigActivationTest,
-	::testing::Values(ActivationCase{"TRUE", true},
-		ActivationCase{"On", true},
-		ActivationCase{"1", true},
-		ActivationCase{"False", false},
-		ActivationCase{"yes", true},
-		ActivationCase{"0", false}),
-	[](const ::testing::TestParamInfo<ActivationCase>& info) { return info.param.first; });
+	::testing::Values(ActivationCase{"TRUE", "cnp_33=TRUE\n", true},
+		ActivationCase{"On", "cnp_33=On\n", true},
+		ActivationCase{"1", "cnp_33=1\n", true},
+		ActivationCase{"False", "cnp_33=False\n", false},
+		ActivationCase{"yes", "cnp_33=yes\n", true},
+		ActivationCase{"0", "cnp_33=0\n", false},
+		ActivationCase{"NumberLongerThanThreeDigitsIgnored", "cnp_1242=off\ncnp_=off\n", true},
+		ActivationCase{"FirstSwitchReadStays", "cnp_32=on\ncnp_33=off\n", true},
+		ActivationCase{"ThreeDigitCountry", "cnp_353=off\n", false}),
+	numbering::test::rowName);
 
 TEST_F(ZelNumberingConfigTest, QueriesMatchExactlyWithoutFoldingOrTrimming)
 {
@@ -205,9 +202,7 @@ struct BadFileCase
 	std::vector<std::string> countries;
 };
 
-class ZelNumberingConfigBadFileTest: public ZelNumberingConfigTest, public ::testing::WithParamInterface<BadFileCase>
-{
-};
+using ZelNumberingConfigBadFileTest = numbering::test::WithRows<ZelNumberingConfigTest, BadFileCase>;
 
 TEST_P(ZelNumberingConfigBadFileTest, LogsAndKeepsWhatCouldBeRead)
 {
@@ -227,7 +222,7 @@ INSTANTIATE_TEST_SUITE_P(DialingRules,
 		BadFileCase{"KeyWithDot", "AA=1:::::A\nFR.x=33:00:EFG:0FG:G:France:P\n", "Not found", {}},
 		BadFileCase{"LineWithoutEquals", "FR\n", "", {""}},
 		BadFileCase{"HugeValue", "FR=33:0:E:0F:G:" + std::string(100000, 'n') + "\n", "", {std::string(100000, 'n')}}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelNumberingConfigTest, DirectoryOrEmptyPathInPlaceOfAFileCountsAsMissing)
 {
@@ -336,9 +331,7 @@ struct RuleCase
 	const char* expectedLocalPrefix;
 };
 
-class ZelCountryRuleItemTest: public ::testing::TestWithParam<RuleCase>
-{
-};
+using ZelCountryRuleItemTest = ::testing::TestWithParam<RuleCase>;
 
 TEST_P(ZelCountryRuleItemTest, DerivesPrefixesFromRules)
 {
@@ -360,20 +353,6 @@ INSTANTIATE_TEST_SUITE_P(Rules,
 		RuleCase{"LeadingF", "FG", "F", "FG", "", ""},
 		RuleCase{"LowerCaseIgnored", "0fi", "0g", "0fi", "", ""},
 		RuleCase{"Empty", "", "", "", "", ""}),
-	numbering::test::RowName());
-
-TEST_F(ZelNumberingConfigTest, FirstActivationSwitchReadStays)
-{
-	writeFile("dialingrules.properties", DIALING_RULES);
-	writeFile("specific_format_activation.properties", "cnp_32=on\ncnp_33=off\n");
-	EXPECT_TRUE(load().isSpecificFormatActiveForCountry("0"));
-}
-
-TEST_F(ZelNumberingConfigTest, ActivationOfAThreeDigitCountryIsRead)
-{
-	writeFile("dialingrules.properties", "IE=353:00:EFG:0FG:G:Ireland:P\n");
-	writeFile("specific_format_activation.properties", "cnp_353=off\n");
-	EXPECT_FALSE(load().isSpecificFormatActiveForCountry("0"));
-}
+	numbering::test::rowName);
 
 } // namespace

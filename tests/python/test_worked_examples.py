@@ -39,7 +39,7 @@ CO=57:00:EF:0F:F:Colombia:P
     "r7731cnp_49.properties": "Translate=1\nAC_0000=30\nAC_0001=89\nAC_0002=221\nAC_0003=7071\n",
 }
 
-MORE_PLANS_RULES = """AR=54:00:EFG:0FG:G:Argentina:P
+TRUNK_PREFIX_PLANS_RULES = """AR=54:00:EFG:0FG:G:Argentina:P
 AT=43:00:EFG:0FG:G:Austria:P
 AU=61:0011:EFG:0FG:G:Australia:P
 BE=32:00:EFG:0FG:0FG:Belgium:P
@@ -48,7 +48,7 @@ GB=44:00:EFG:0FG:G:United Kingdom:P
 IE=353:00:EFG:0FG:G:Ireland:P
 NL=31:00:EFG:0FG:G:Netherlands:P
 """
-MORE_PLANS_CODES = {
+TRUNK_PREFIX_PLANS_CODES = {
     "31": "10 111 20 30 346 40 50 70 71",
     "32": "10 11 2 3 4 50 71 80 89 9",
     "43": "1 2236 316 463 512 5574 650 6542 660 662 664 676 680 699 720 732 800 810 900",
@@ -59,19 +59,19 @@ MORE_PLANS_CODES = {
 }
 
 
-def more_plans(translate="1", tables=True, mexico="MX=52:00:EFG:01FG:G:Mexico:P\n"):
+def trunk_prefix_plans(translate="1", tables=True, mexico="MX=52:00:EFG:01FG:G:Mexico:P\n"):
     """The dialing rules of the eight countries and France, and their area-code tables."""
-    files = {"dialingrules.properties": MORE_PLANS_RULES + mexico}
-    for calling_code, codes in MORE_PLANS_CODES.items() if tables else ():
+    files = {"dialingrules.properties": TRUNK_PREFIX_PLANS_RULES + mexico}
+    for calling_code, codes in TRUNK_PREFIX_PLANS_CODES.items() if tables else ():
         entries = "".join(f"AC_{index:04d}={code}\n" for index, code in enumerate(codes.split()))
         files[f"r7731cnp_{calling_code}.properties"] = f"Translate={translate}\n" + entries
     return files
 
 
-SAMPLE = more_plans()
-NO_TRANSLATE = more_plans(translate="0")
-NO_TABLE = more_plans(tables=False)
-MEXICO_2019 = more_plans(mexico="MX=52:00:EFG:FG:FG:Mexico:P\n")
+SAMPLE = trunk_prefix_plans()
+NO_TRANSLATE = trunk_prefix_plans(translate="0")
+NO_TABLE = trunk_prefix_plans(tables=False)
+MEXICO_2019 = trunk_prefix_plans(mexico="MX=52:00:EFG:FG:FG:Mexico:P\n")
 
 # Sites: country, external prefix, area codes; local numbers are shorter than 5 digits. Berlin's exception
 # numbers begin with 11.

@@ -1,19 +1,31 @@
 // SampleConfigTest.cpp
+// The sample configuration as the library reads it; with the generator, also the number ranges its tables are
+// generated from.
 
 #include "numbering/ZelDialRulesItem.h"
 #include "numbering/ZelNumberingConfig.h"
 #include "numbering/ZelNumberingRules.h"
 
 #include "support/ConfigFixture.h"
-#include "support/RowName.h"
+#include "support/TableRows.h"
 
 #include "Poco/AutoPtr.h"
 #include "Poco/Format.h"
 #include "Poco/Util/PropertyFileConfiguration.h"
 
+#ifdef NUMBERING_HAVE_GENERATOR
+#include "NonGeographicWalker.h"
+
+using i18n::phonenumbers::PhoneNumber;
+using i18n::phonenumbers::PhoneNumberUtil;
+#endif
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -38,7 +50,8 @@ protected:
 		return ZelNumberingRules::getInstance();
 	}
 
-	/// External prefix 9: 0 would make numbers with a trunk prefix ambiguous in the open plans.
+	/// External prefix 9: no national number begins with it, and 0 would make numbers with a trunk prefix ambiguous
+	/// in the open plans.
 	static ZelDialRulesItem site(const std::string& country, const std::string& areaCode)
 	{
 		return ZelDialRulesItem(country, "9", 5, areaCode, 0, "");
@@ -125,39 +138,106 @@ INSTANTIATE_TEST_SUITE_P(TablePlans,
 		Table{"Argentina", "AR", "54", "11", 322, 10},
 		Table{"Australia", "AU", "61", "2", 89, 9},
 		Table{"Ireland", "IE", "353", "1", 59, 0}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
-/// A well-known number of a country without an area-code table (the table countries are read code by code
-/// above), dialled in its capital, and the canonical form its country expects.
-struct WellKnown
+#ifdef NUMBERING_HAVE_GENERATOR
+
+/// A table country, two of its areas (a number of the first is made canonical at a site of the second), the
+/// lengths of the national numbers its plan splits with its table and the beginnings of the numbers its plan
+/// writes in a form of its own. The plan writes the other numbers without the table: they are only dialled.
+struct TableCountry
 {
 	const char* name;
-	const char* country;
-	const char* siteArea;
-	const char* dialled;
-	const char* expected;
+	const char* region;
+	const char* area;
+	const char* otherArea;
+	std::size_t shortest;
+	std::size_t longest;
+	std::vector<std::string> writtenByPlan;
+
+	bool splitsWithTable(const std::string& number) const
+	{
+		return number.size() >= shortest && number.size() <= longest &&
+			   std::none_of(writtenByPlan.begin(), writtenByPlan.end(), [&number](const std::string& beginning) {
+				   return number.compare(0, beginning.size(), beginning) == 0;
+			   });
+	}
 };
 
-class SampleWellKnownNumberTest: public SampleConfigTest, public ::testing::WithParamInterface<WellKnown>
+std::string digitsOf(const std::string& text)
 {
-};
-
-TEST_P(SampleWellKnownNumberTest, BecomesTheExpectedCanonicalForm)
-{
-	ZelDialRulesItem at = site(GetParam().country, GetParam().siteArea);
-	EXPECT_EQ(GetParam().expected, rules()->makeCanonicalNumber(&at, GetParam().dialled, ""));
+	std::string digits;
+	std::copy_if(text.begin(), text.end(), std::back_inserter(digits), [](unsigned char c) { return std::isdigit(c); });
+	return digits;
 }
 
-INSTANTIATE_TEST_SUITE_P(PlanCountries,
-	SampleWellKnownNumberTest,
-	::testing::Values(WellKnown{"ParisSwitchboard", "FR", "1", "01 42 92 81 00", "+33 1 42 92 81 00"},
-		WellKnown{"GermanMobile", "DE", "30", "0151 12345678", "+49 (151) 12345678"},
-		WellKnown{"WashingtonSwitchboard", "US", "202", "202-456-1414", "+1 (202) 4561414"},
-		WellKnown{"MoscowSwitchboard", "RU", "495", "8 495 123-45-67", "+7 (495) 1234567"},
-		WellKnown{"BernSwitchboard", "CH", "31", "031 322 21 11", "+41 (31) 3222111"},
-		WellKnown{"MexicoCitySwitchboard", "MX", "55", "55 1234 5678", "+52 (55) 12345678"},
-		WellKnown{"BogotaSwitchboard", "CO", "1", "09 1 234 5678", "+57 (1) 2345678"},
-		WellKnown{"WellingtonSwitchboard", "NZ", "4", "04 817 9999", "+64 (4) 8179999"}),
-	numbering::test::RowName());
+/// Numbers of the sample configuration's table countries, drawn from the metadata the tables are generated
+/// from: the example number of every type, and numbers of every non-geographic range.
+class SampleNumberRangeTest: public SampleConfigTest, public ::testing::WithParamInterface<TableCountry>
+{
+protected:
+	static std::set<std::string> numbers(const std::string& region)
+	{
+		const PhoneNumberUtil& util = *PhoneNumberUtil::GetInstance();
+		std::set<std::string> all = numbering::generator::NonGeographicWalker(util).numbers(region);
+		std::set<PhoneNumberUtil::PhoneNumberType> types;
+		util.GetSupportedTypesForRegion(region, &types);
+		for (PhoneNumberUtil::PhoneNumberType type : types)
+		{
+			PhoneNumber example;
+			std::string national;
+			if (util.GetExampleNumberForType(region, type, &example))
+				util.GetNationalSignificantNumber(example, &national);
+			all.insert(national);
+		}
+		all.erase("");
+		return all;
+	}
+};
+
+TEST_P(SampleNumberRangeTest, KeepsTheCodeOfEveryNumberAndDialsItBackFromAbroad)
+{
+	const TableCountry& country = GetParam();
+	const std::string callingCode = ZelNumberingConfig::getInstance()->getCountryNumber(country.region);
+	ZelDialRulesItem here = site(country.region, country.area);
+	ZelDialRulesItem elsewhere = site(country.region, country.otherArea);
+	ZelDialRulesItem paris = site("FR", "1");
+	std::vector<std::string> codeLost;
+	std::vector<std::string> notDialledBack;
+	for (const std::string& number : numbers(country.region))
+	{
+		// A site of an area the number is not in: the site's area code in the result shows a missing code.
+		ZelDialRulesItem& at =
+			number.compare(0, std::string(country.area).size(), country.area) == 0 ? elsewhere : here;
+		const std::string canonical = rules()->makeCanonicalNumber(&at, "0" + number, "");
+		if (country.splitsWithTable(number) &&
+			(digitsOf(canonical) != callingCode + number || canonical.find("(0)") != std::string::npos))
+			codeLost.push_back(number + " -> " + canonical);
+		const std::string dialled = rules()->makePhoneNumber(&paris, canonical);
+		// The dialled number carries the site's external prefix.
+		const std::string back = rules()->makeCanonicalNumber(&paris, dialled, "", true);
+		if (back != canonical) notDialledBack.push_back(canonical + " -> " + dialled + " -> " + back);
+	}
+	EXPECT_EQ(std::vector<std::string>(), codeLost);
+	EXPECT_EQ(std::vector<std::string>(), notDialledBack);
+}
+
+INSTANTIATE_TEST_SUITE_P(TablePlans,
+	SampleNumberRangeTest,
+	// Shorter German and Austrian numbers leave fewer than three digits behind their code; the Dutch, Belgian and
+	// British plans write numbers of other lengths "+CC (0) ...", as the Belgian plan writes mobile (nine digits)
+	// and service numbers and the Argentine plan eleven-digit freephone numbers; Argentine mobile numbers have
+	// eleven digits with their "9"; Australian service numbers begin with 1.
+	::testing::Values(TableCountry{"Netherlands", "NL", "20", "10", 9, 9, {}},
+		TableCountry{"Belgium", "BE", "2", "9", 8, 8, {"70", "78", "800", "90"}},
+		TableCountry{"Austria", "AT", "1", "316", 6, 13, {}},
+		TableCountry{"UnitedKingdom", "GB", "20", "121", 9, 10, {}},
+		TableCountry{"Germany", "DE", "30", "89", 6, 13, {}},
+		TableCountry{"Argentina", "AR", "11", "351", 10, 11, {"800"}},
+		TableCountry{"Australia", "AU", "2", "3", 9, 9, {"1"}},
+		TableCountry{"Ireland", "IE", "1", "21", 5, 13, {}}),
+	numbering::test::rowName);
+
+#endif
 
 } // namespace

@@ -4,7 +4,7 @@
 
 #include "numbering/number_format_exception.h"
 
-#include "support/RowName.h"
+#include "support/TableRows.h"
 #include "support/ThrowMessage.h"
 #include "trees/ZelCharsTree.h"
 #include "trees/ZelCharsTreeElement.h"
@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
 		Extraction{"StopsAtANonDigit", "30-12", "30"},
 		Extraction{"Empty", "", ""},
 		Extraction{"Binary", "\x01\xff", ""}),
-	numbering::test::RowName());
+	numbering::test::rowName);
 
 TEST_F(ZelAreaCodeTreeTest, RefusesAPathAlreadyPresent)
 {
