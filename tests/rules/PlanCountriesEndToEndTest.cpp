@@ -65,6 +65,7 @@ const TripRow NETHERLANDS[] = {
 	{"ExtPrefixAndLocal", "02345678", "+31 (20) 2345678", "2345678", "0202345678", "0031202345678"},
 	{"WrongLength", "021234567", "+31 (0) 21234567", "021234567", "021234567", "003121234567"},
 	{"ShortCode", "14020", "14020"},
+	{"ThreeDigitsBehindTrunkPrefix", "0123", "+31 (0) 123"},
 	{"LocalWithoutTranslation", "6123456", "6123456", nullptr, nullptr, nullptr, Setting::NoTranslate},
 	{"InternationalOneDigitShort", "+31 20 123 456", "+31 (0) 20123456", "020123456", "020123456", "003120123456"},
 	{"LocalBeginningWithOne", "1234567", "1234567"},
