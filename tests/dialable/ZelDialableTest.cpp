@@ -367,6 +367,16 @@ TEST_F(ZelDialable54Test, DialsLongDistanceAndLocalAlike)
 	}
 }
 
+TEST_F(ZelDialable54Test, DialsTheAreaForNoSite)
+{
+	configure(test::Setting::Sample);
+	Poco::AutoPtr<ZelDialable_54> maker(new ZelDialable_54());
+	std::string area = "11";
+	std::string dest = "43211234";
+	EXPECT_EQ("01143211234", maker->MakeLocalOrLongDistDialableNumber(
+								 area, dest, ZelNumberingConfig::getInstance()->getCountryRule("AR"), nullptr));
+}
+
 TEST_F(ZelDialable54Test, DialsAreaAndNumberWithoutArgentinePlan)
 {
 	writeFile("dialingrules.properties", "FR=33:00:EFG:0FG:G:France:P\n");
