@@ -82,6 +82,17 @@ TEST_F(ZelNumberingRulesTest, GetInstanceBuildsOneFacadeUntilResetAndTheNextRead
 	EXPECT_EQ(std::vector<std::string>{"Frankreich"}, ZelNumberingRules::getInstance()->getCountryList());
 }
 
+TEST_F(ZelNumberingRulesTest, ResetAlsoRebuildsThePlansFromTheirFiles)
+{
+	writeFile("dialingrules.properties", "DE=49:00:EFG:0FG:G:Germany:P\n");
+	writeFile("r7731cnp_49.properties", "AC_0000=30\n");
+	ZelDialRulesItem site("DE", "0", 0, "89", 0, "");
+	EXPECT_EQ("+49 (30) 12345", ZelNumberingRules::getInstance()->makeCanonicalNumber(&site, "03012345", ""));
+	writeFile("r7731cnp_49.properties", "AC_0000=301\n");
+	ZelNumberingRules::resetInstance();
+	EXPECT_EQ("+49 (301) 2345", ZelNumberingRules::getInstance()->makeCanonicalNumber(&site, "03012345", ""));
+}
+
 TEST_F(ZelNumberingRulesTest, PrefixWantedFromTheLocalLengthOnUnlessExceptionNumberOrNoSite)
 {
 	ZelDialRulesItem site("FR", "0", 4, "1", 0, "18");
