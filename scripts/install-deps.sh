@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(cmake ninja-build g++ pkg-config clang-format libpoco-dev libgtest-dev libgmock-dev libbenchmark-dev
 	clang-14 libclang-rt-14-dev llvm-14 libphonenumber-dev iso-codes dpkg-dev file lintian
-	python3-dev pybind11-dev python3-pybind11 python3-pytest python3-dask python3-distributed python3-pandas)
+	python3-dev pybind11-dev python3-pybind11 python3-pytest python3-dask python3-distributed python3-pandas valgrind)
 
 missing=()
 for package in "${packages[@]}"; do
